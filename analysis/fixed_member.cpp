@@ -1,0 +1,175 @@
+#include "analysis/fixed_member.h"
+
+#include "model/numbers.h"
+
+#include <cmath>
+
+namespace kvelder {
+namespace {
+
+// A calculation point at the load itself counts as right of the load.
+constexpr double kLeftOfLoad = -0.00001;
+
+bool left_of(double x, double a)
+{
+    return x - a < kLeftOfLoad;
+}
+
+// Clamped-beam deflection of a point load, the part left of the load:
+// P b^2 x^2 (3aL - 3ax - bx) / (6 L^3).
+double clamped_point_left(double L, double x, double P, double a)
+{
+    const double r = a / L;
+    return P * a * x * x / 6 * ((3 - 6 * r + 3 * r * r) - (1 - 3 * r * r + 2 * r * r * r) * x / a);
+}
+
+// The point-load deflection without any test of the distance to the ends.
+double point_deflection_anywhere(float L, float x, float P, float a)
+{
+    // A strip of a line load without width carries nothing.
+    if (P == 0.0F) {
+        return 0;
+    }
+    const float b = f32(static_cast<double>(L) - a);
+    if (x > a) {
+        return clamped_point_left(L, static_cast<double>(L) - x, P, b);
+    }
+    return clamped_point_left(L, x, P, a);
+}
+
+} // namespace
+
+ShearMoment point_load_forces(float L, float x, float P, float a)
+{
+    if (a - 0.001 < 0) {
+        a = f32(0.001);
+    } else if (std::fabs(static_cast<double>(L) - a) - 0.001 < 0) {
+        a = f32(L - 0.001);
+    }
+    const double Ld = L;
+    const float b = f32(Ld - a);
+    const float mL = f32(static_cast<double>(P) * a * b * b / (Ld * Ld));
+    const float mR = f32(static_cast<double>(mL) * a / b);
+    const float R = f32((static_cast<double>(mL) - mR) / Ld);
+    const float T = f32(-((static_cast<double>(mR) - mL) * x / Ld + mL));
+
+    if (left_of(x, a)) {
+        return {f32(static_cast<double>(b) * P / Ld + R), f32(static_cast<double>(b) * P / Ld * x + T)};
+    }
+    return {f32(-static_cast<double>(P) * a / Ld + R), f32(static_cast<double>(P) * a / Ld * (Ld - x) + T)};
+}
+
+ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2)
+{
+    const double Ld = L;
+    const double ad = a;
+    const double bd = b;
+    const float w = f32(bd - ad);
+
+    // Reactions and moment diagram of the load on a simple beam.
+    const float RA = f32(((3 * Ld - 2 * ad - bd) * q1 + (3 * Ld - 2 * bd - ad) * q2) * w / (6 * Ld));
+    const float RB = f32(((2 * ad + bd) * q1 + (2 * bd + ad) * q2) * w / (6 * Ld));
+
+    float M0 = 0;
+    float V0 = 0;
+    if (x <= a) {
+        M0 = f32(static_cast<double>(RA) * x);
+        V0 = RA;
+    } else if (x < b) {
+        const double u = static_cast<double>(x) - ad;
+        const double lever = 3 * bd - 2 * ad - x;
+        M0 = f32(static_cast<double>(RA) * x - (q1 * lever * u * u + q2 * u * u * u) / (6.0 * w));
+        V0 = f32(RA - (2 * q1 * lever * u - (static_cast<double>(q1) - 3.0 * q2) * u * u) / (6.0 * w));
+    } else {
+        M0 = f32(static_cast<double>(RB) * (Ld - x));
+        V0 = -RB;
+    }
+
+    // Area and first moment about the left end of that diagram, in closed form.
+    const double w3 = static_cast<double>(w) * w * w;
+    const float A = f32(RA * bd * bd / 2 - w3 * (3.0 * q1 + q2) / 24 + RB * (Ld - bd) * (Ld - bd) / 2);
+    const float S =
+        f32(RA * bd * bd * bd / 3 - ad * w3 * (3.0 * q1 + q2) / 24 - w3 * w * (11.0 * q1 + 4.0 * q2) / 120 +
+            RB * (Ld - bd) * (Ld - bd) * (Ld + 2 * bd) / 6);
+
+    // End moments of the held member by the moment-area rule. A diagram without
+    // area has no centroid; the same rule then reads without the division.
+    float mL = 0;
+    float mR = 0;
+    if (A != 0.0F) {
+        const float xbar = f32(static_cast<double>(S) / A);
+        mL = f32(2 * (2 * Ld - 3.0 * xbar) * A / (Ld * Ld));
+        mR = f32(2 * (3.0 * xbar - Ld) * A / (Ld * Ld));
+    } else {
+        mL = f32((4 * Ld * A - 6.0 * S) / (Ld * Ld));
+        mR = f32((6.0 * S - 2 * Ld * A) / (Ld * Ld));
+    }
+
+    return {f32(static_cast<double>(V0) + (static_cast<double>(mL) - mR) / Ld),
+            f32(M0 - (mL + (static_cast<double>(mR) - mL) * x / Ld))};
+}
+
+ShearMoment moment_load_forces(float L, float x, float M, float a)
+{
+    if (a - 0.0001 < 0) {
+        a = f32(0.0001);
+    } else if (std::fabs(static_cast<double>(L) - a) - 0.0001 < 0) {
+        a = f32(L - 0.0001);
+    }
+    const double Ld = L;
+    const float b = f32(Ld - a);
+    const float shear = f32(-6.0 * M * a * b / std::pow(Ld, 3.0));
+    const float mL = f32(static_cast<double>(M) * b * (2.0 * a - b) / std::pow(Ld, 2.0));
+
+    if (left_of(x, a)) {
+        return {shear, f32(static_cast<double>(shear) * x + mL)};
+    }
+    return {shear, f32(static_cast<double>(shear) * x + mL + M)};
+}
+
+double point_load_deflection(float L, float x, float P, float a)
+{
+    if (!(0.001 <= a && 0.001 <= static_cast<double>(L) - a)) {
+        return 0;
+    }
+    return point_deflection_anywhere(L, x, P, a);
+}
+
+double uniform_load_deflection(float L, float x, float q)
+{
+    const double Ld = L;
+    const double r = 1 - x / Ld;
+    return q * Ld * Ld * x * x * r * r / 24;
+}
+
+double line_load_deflection(float L, float x, float a, float b, float q1, float q2)
+{
+    constexpr int kStrips = 20;
+    const double dx = (static_cast<double>(b) - a) / kStrips;
+    const double dq = (static_cast<double>(q2) - q1) / kStrips;
+    double sum = 0;
+    for (int k = 1; k <= kStrips; ++k) {
+        const float P = f32(dx * (q1 + (k - 0.5) * dq));
+        const float at = f32(a + dx / 2 + (k - 1) * dx);
+        sum += point_deflection_anywhere(L, x, P, at);
+    }
+    return sum;
+}
+
+double moment_load_deflection(float L, float x, float M, float a)
+{
+    if (a < 0.001) {
+        a = f32(0.0001);
+    } else if (std::fabs(static_cast<double>(L) - a) - 0.001 < 0) {
+        a = f32(L - 0.00001);
+    }
+    const double Ld = L;
+    const float b = f32(Ld - a);
+    if (x > a) {
+        const double r = Ld - x;
+        return -static_cast<double>(a) * M * r * r / (2 * Ld * Ld) * (a - 2.0 * b * x / Ld);
+    }
+    return static_cast<double>(b) * M * x * x / (2 * Ld * Ld) * (Ld - 3.0 * a + 2.0 * a * x / Ld);
+}
+
+} // namespace kvelder

@@ -1,0 +1,37 @@
+#pragma once
+
+namespace kvelder {
+
+// One load on one member with both ends held, worked out at one calculation
+// point x of a span of length L (metres).
+//
+// Loads q, q1, q2 and P act downward when positive; a concentrated moment M is
+// positive clockwise. Shear is positive when the part left of the section is
+// pushed up by its supports; moment is positive for sagging. Deflection is
+// returned as EI x deflection (kN m3), positive downward.
+
+struct ShearMoment {
+    float shear = 0;
+    float moment = 0;
+};
+
+// Point load P at a. A load closer than 1 mm to an end is moved to 1 mm.
+ShearMoment point_load_forces(float L, float x, float P, float a);
+
+// Line load from q1 at a to q2 at b (a uniform load is a = 0, b = L, q1 = q2).
+ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2);
+
+// Concentrated moment M at a, inside the span.
+ShearMoment moment_load_forces(float L, float x, float M, float a);
+
+// Deflection of a point load; nothing for a load within 1 mm of an end.
+double point_load_deflection(float L, float x, float P, float a);
+
+double uniform_load_deflection(float L, float x, float q);
+
+// Deflection of a line load, summed over 20 strips taken as point loads.
+double line_load_deflection(float L, float x, float a, float b, float q1, float q2);
+
+double moment_load_deflection(float L, float x, float M, float a);
+
+} // namespace kvelder

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/model.h"
+
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+
+namespace kvelder::test {
+
+// Stiffness used by the beam-theory tests: E = 13000 N/mm2, I = 1e9 mm4, EI = 13000 kNm2.
+constexpr float kE0 = 13000.0F;
+constexpr float kImm4 = 1.0e9F;
+constexpr double kEI = 13000.0;
+
+// A beam with the given span lengths and end supports, no loads, unit load and
+// deflection factors, and the total load run. Interior nodes are simple supports.
+std::unique_ptr<Model> make_beam(std::initializer_list<float> spans, char left = kSimple,
+                                 char right = kSimple);
+
+// Sets every ULS factor and every deflection factor to `value`.
+void set_all_factors(Model& m, float value);
+
+// Load rows, appended to a group.
+void add_uniform(LoadGroup& g, int span, float q);
+void add_trapezoid(LoadGroup& g, int span, float q1, float q2, float a, float b);
+void add_point(LoadGroup& g, int span, float P, float a);
+void add_moment(LoadGroup& g, int span, float M, float a);
+
+// A folder of its own for the scratch files of this test process.
+const std::filesystem::path& scratch_folder();
+
+// Builds the calculation grids and recalculates.
+void recalculate(Model& m);
+
+} // namespace kvelder::test
