@@ -69,21 +69,24 @@ bool takes(const Model& m, int row_span, int span)
     return span == kAllSpans ? on_beam(m, row_span) : row_span == span;
 }
 
-void point_and_moment_forces(Model& m, const LoadGroup& g, int span)
+// Calls fn(row, span of the row, its length) for each row of one table that the driver takes.
+template <int Rows, typename Fn>
+void each_row(const Model& m, int count, const Table<std::int16_t, Rows>& spans, int span, Fn&& fn)
 {
-    for (int k = 1; k <= g.pt_n; ++k) {
-        const int i = g.pt_span(k);
+    for (int k = 1; k <= count; ++k) {
+        const int i = spans(k);
         if (takes(m, i, span)) {
-            const float L = m.ffl_s(i);
-            add_forces(m, i, [&](float x) { return point_load_forces(L, x, g.pt_P(k), g.pt_a(k)); });
+            fn(k, i, m.ffl_s(i));
         }
     }
-    for (int k = 1; k <= g.mom_n; ++k) {
-        const int i = g.mom_span(k);
-        if (!takes(m, i, span)) {
-            continue;
-        }
-        const float L = m.ffl_s(i);
+}
+
+void point_and_moment_forces(Model& m, const LoadGroup& g, int span)
+{
+    each_row(m, g.pt_n, g.pt_span, span, [&](int k, int i, float L) {
+        add_forces(m, i, [&](float x) { return point_load_forces(L, x, g.pt_P(k), g.pt_a(k)); });
+    });
+    each_row(m, g.mom_n, g.mom_span, span, [&](int k, int i, float L) {
         const float a = g.mom_a(k);
         const float M = g.mom_M(k);
         if (0.001 <= a && a <= L - 0.001) {
@@ -95,52 +98,35 @@ void point_and_moment_forces(Model& m, const LoadGroup& g, int span)
         } else {
             m.F_load(2 * i) = -M;
         }
-    }
+    });
 }
 
 void line_forces(Model& m, const LoadGroup& g, int span)
 {
-    for (int k = 1; k <= g.trap_n; ++k) {
-        const int i = g.trap_span(k);
-        if (takes(m, i, span)) {
-            const float L = m.ffl_s(i);
-            add_forces(m, i, [&](float x) {
-                return line_load_forces(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
-            });
-        }
-    }
+    each_row(m, g.trap_n, g.trap_span, span, [&](int k, int i, float L) {
+        add_forces(m, i, [&](float x) {
+            return line_load_forces(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
+        });
+    });
 }
 
 void point_and_moment_deflections(Model& m, const LoadGroup& g, int span)
 {
-    for (int k = 1; k <= g.pt_n; ++k) {
-        const int i = g.pt_span(k);
-        if (takes(m, i, span)) {
-            const float L = m.ffl_s(i);
-            add_deflections(m, i, [&](float x) { return point_load_deflection(L, x, g.pt_P(k), g.pt_a(k)); });
-        }
-    }
-    for (int k = 1; k <= g.mom_n; ++k) {
-        const int i = g.mom_span(k);
-        if (takes(m, i, span)) {
-            const float L = m.ffl_s(i);
-            add_deflections(m, i,
-                            [&](float x) { return moment_load_deflection(L, x, g.mom_M(k), g.mom_a(k)); });
-        }
-    }
+    each_row(m, g.pt_n, g.pt_span, span, [&](int k, int i, float L) {
+        add_deflections(m, i, [&](float x) { return point_load_deflection(L, x, g.pt_P(k), g.pt_a(k)); });
+    });
+    each_row(m, g.mom_n, g.mom_span, span, [&](int k, int i, float L) {
+        add_deflections(m, i, [&](float x) { return moment_load_deflection(L, x, g.mom_M(k), g.mom_a(k)); });
+    });
 }
 
 void line_deflections(Model& m, const LoadGroup& g, int span)
 {
-    for (int k = 1; k <= g.trap_n; ++k) {
-        const int i = g.trap_span(k);
-        if (takes(m, i, span)) {
-            const float L = m.ffl_s(i);
-            add_deflections(m, i, [&](float x) {
-                return line_load_deflection(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
-            });
-        }
-    }
+    each_row(m, g.trap_n, g.trap_span, span, [&](int k, int i, float L) {
+        add_deflections(m, i, [&](float x) {
+            return line_load_deflection(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
+        });
+    });
 }
 
 void uniform_forces(Model& m, const UniformLoad& u)
@@ -178,22 +164,18 @@ void G_deflections(Model& m)
 void variable_forces(Model& m, const LoadGroup& group, int span)
 {
     point_and_moment_forces(m, group, span);
-    for (int k = 1; k <= group.uni_n; ++k) {
-        if (group.uni_span(k) == span) {
-            uniform_forces(m, {span, group.uni_q(k)});
-        }
-    }
+    each_row(m, group.uni_n, group.uni_span, span, [&](int k, int i, float) {
+        uniform_forces(m, {i, group.uni_q(k)});
+    });
     line_forces(m, group, span);
 }
 
 void variable_deflections(Model& m, const LoadGroup& group, int span)
 {
     point_and_moment_deflections(m, group, span);
-    for (int k = 1; k <= group.uni_n; ++k) {
-        if (group.uni_span(k) == span) {
-            uniform_deflections(m, {span, group.uni_q(k)});
-        }
-    }
+    each_row(m, group.uni_n, group.uni_span, span, [&](int k, int i, float) {
+        uniform_deflections(m, {i, group.uni_q(k)});
+    });
     line_deflections(m, group, span);
 }
 

@@ -100,6 +100,23 @@ TEST(Combination, EmptyVariableGroupsAddNothing)
     }
 }
 
+TEST(Combination, EveryPatternStartsItsDeflectionSumsAfresh)
+{
+    // With unit deflection factors the two sums agree in every pattern, the last included.
+    auto m = make_beam({4.0F, 5.0F, 3.0F});
+    m->loadcomb_option = 2;
+    add_uniform(m->G, 2, 2.0F);
+    add_uniform(m->Q1, 1, 3.0F);
+    add_point(m->Q2, 3, 4.0F, 1.0F);
+    recalculate(*m);
+    ASSERT_EQ(m->npatterns, 8);
+    for (int i = 1; i <= 3; ++i) {
+        for (int j = 1; j <= m->nxtot_s(i); ++j) {
+            EXPECT_FLOAT_EQ(m->C_Winst(i, j), m->C_W(i, j)) << "span " << i << ", point " << j;
+        }
+    }
+}
+
 TEST(Envelopes, PartialSumsOfAPatternCountAsStatesOfTheBeam)
 {
     // G pulls down, Q2 lifts: the largest sagging comes from G alone, before Q2 is added.
