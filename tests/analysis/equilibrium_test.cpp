@@ -31,16 +31,11 @@ public:
         const char ends[] = {kFree, kSimple, kBuiltIn};
         std::unique_ptr<Model> m;
         do {
-            const int nf = pick(1, 5);
             m = make_beam({1.0F}, ends[pick(0, 2)], ends[pick(0, 2)]);
-            m->nf = static_cast<std::int16_t>(nf);
-            m->nnodes = static_cast<std::int16_t>(nf + 1);
-            for (int i = 1; i <= nf; ++i) {
+            set_span_count(*m, pick(1, 5));
+            for (int i = 1; i <= m->nf; ++i) {
                 m->ffl_s(i) = real(0.8F, 8.0F);
-                m->support_kind(i) = kSimple;
             }
-            m->support_kind(1) = m->nsupLeft_s;
-            m->support_kind(m->nnodes) = m->nsupRight_s;
             restraint_table(*m);
         } while (!restraints_sufficient(*m));
         for (LoadGroup* g : {&m->G, &m->Q1, &m->Q2}) {
@@ -147,9 +142,7 @@ TEST(Equilibrium, SupportsCarryEveryLoadCaseOfRandomBeams)
         RandomBeam random(seed);
         auto m = random.make();
         m->E_kNm2 = 1.1e7;
-        for (int i = 1; i <= m->nf; ++i) {
-            m->I_span_m4(i) = 5e-4;
-        }
+        m->I_span_m4.fill(5e-4);
         build_calculation_grids(*m);
         assemble_and_factorise(*m);
 

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace kvelder::test {
 namespace {
 
@@ -19,46 +21,40 @@ float total_reaction(const Model& m)
     return sum;
 }
 
-TEST(SelfWeight, FewerUniformRowsThanSpansPutTheWeightOnEverySpan)
-{
-    auto m = make_beam({4.0F, 6.0F, 5.0F});
-    m->profile_weight_on = kTrue;
-    m->selfweight_q(1) = m->selfweight_q(2) = m->selfweight_q(3) = 0.5F;
-    add_uniform(m->G, 2, 3.0F);
-    recalculate(*m);
-    EXPECT_NEAR(total_reaction(*m), 0.5 * 15 + 3.0 * 6, 1e-4);
-}
+struct WeightCase {
+    const char* what;
+    std::int16_t weight_on;
+    std::vector<std::pair<int, float>> G_rows, Q1_rows; // uniform (span, q)
+    double total;                                       // spans of 4 and 6 m, weight 0.5 kN/m
+};
 
-TEST(SelfWeight, ARowForEverySpanCarriesItsWeightWithIt)
+class SelfWeight : public ::testing::TestWithParam<WeightCase> {};
+
+TEST_P(SelfWeight, GoesWhereTheUniformRowsOfGLetIt)
 {
-    // Two rows on span 1 with two spans: span 1 gets the weight twice, span 2 none.
+    const WeightCase& c = GetParam();
     auto m = make_beam({4.0F, 6.0F});
-    m->profile_weight_on = kTrue;
-    m->selfweight_q(1) = m->selfweight_q(2) = 0.5F;
-    add_uniform(m->G, 1, 3.0F);
-    add_uniform(m->G, 1, 1.0F);
+    m->profile_weight_on = c.weight_on;
+    m->selfweight_q.fill(0.5F);
+    for (const auto& [span, q] : c.G_rows) {
+        add_uniform(m->G, span, q);
+    }
+    for (const auto& [span, q] : c.Q1_rows) {
+        add_uniform(m->Q1, span, q);
+    }
     recalculate(*m);
-    EXPECT_NEAR(total_reaction(*m), (3.0 + 0.5 + 1.0 + 0.5) * 4, 1e-4);
+    EXPECT_NEAR(total_reaction(*m), c.total, 1e-4) << c.what;
 }
 
-TEST(SelfWeight, OffMeansTheRowsAlone)
-{
-    auto m = make_beam({4.0F});
-    m->selfweight_q(1) = 0.5F;
-    add_uniform(m->G, 1, 3.0F);
-    recalculate(*m);
-    EXPECT_NEAR(total_reaction(*m), 12, 1e-5);
-}
-
-TEST(SelfWeight, OnlyGroupGCarriesIt)
-{
-    auto m = make_beam({4.0F});
-    m->profile_weight_on = kTrue;
-    m->selfweight_q(1) = 0.5F;
-    add_uniform(m->Q1, 1, 3.0F);
-    recalculate(*m);
-    EXPECT_NEAR(total_reaction(*m), 2 + 12, 1e-5);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Rows, SelfWeight,
+    ::testing::Values(
+        WeightCase{"fewer rows than spans: every span", kTrue, {{2, 3.0F}}, {}, 0.5 * 10 + 3.0 * 6},
+        WeightCase{"no rows: every span", kTrue, {}, {}, 0.5 * 10},
+        // With a row for every span the weight rides on the rows: twice on span 1, none on span 2.
+        WeightCase{"two rows on span 1", kTrue, {{1, 3.0F}, {1, 1.0F}}, {}, (3.0 + 1.0 + 2 * 0.5) * 4},
+        WeightCase{"switched off", kFalse, {{1, 3.0F}}, {}, 12},
+        WeightCase{"only G carries it", kTrue, {}, {{1, 3.0F}}, 0.5 * 10 + 12}));
 
 // Support moments of a two-span beam under a nodal moment at node 2.
 std::pair<float, float> node_moment_result(std::initializer_list<std::pair<int, float>> rows)
@@ -102,15 +98,6 @@ TEST(EndLoads, PointLoadAtAnEndIsMovedOneMillimetreInForTheForces)
     EXPECT_EQ(point_load_deflection(5.0F, 2.0F, 10.0F, 0.0F), 0.0);
     EXPECT_EQ(point_load_deflection(5.0F, 2.0F, 10.0F, 5.0F), 0.0);
     EXPECT_NE(point_load_deflection(5.0F, 2.0F, 10.0F, 0.001F), 0.0);
-}
-
-TEST(EndLoads, AtTheLoadPointTheShearIsTheOneRightOfIt)
-{
-    const ShearMoment at = point_load_forces(4.0F, 1.0F, 8.0F, 1.0F);
-    const ShearMoment before = point_load_forces(4.0F, 0.999F, 8.0F, 1.0F);
-    const ShearMoment clamped_reaction = point_load_forces(4.0F, 0.0F, 8.0F, 1.0F);
-    EXPECT_NEAR(before.shear - at.shear, 8.0, 1e-5);
-    EXPECT_FLOAT_EQ(before.shear, clamped_reaction.shear);
 }
 
 TEST(RowsOffTheBeam, ARowOnASpanThatIsNotThereChangesNothing)

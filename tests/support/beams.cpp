@@ -10,25 +10,28 @@ namespace kvelder::test {
 std::unique_ptr<Model> make_beam(std::initializer_list<float> spans, char left, char right)
 {
     auto m = std::make_unique<Model>();
-    m->nf = static_cast<std::int16_t>(spans.size());
-    m->nnodes = static_cast<std::int16_t>(m->nf + 1);
+    m->nsupLeft_s = left;
+    m->nsupRight_s = right;
+    set_span_count(*m, static_cast<int>(spans.size()));
     int i = 1;
     for (const float L : spans) {
         m->ffl_s(i++) = L;
     }
-    m->nsupLeft_s = left;
-    m->nsupRight_s = right;
-    for (int n = 1; n <= m->nnodes; ++n) {
-        m->support_kind(n) = kSimple;
-    }
-    m->support_kind(1) = left;
-    m->support_kind(m->nnodes) = right;
     m->E0_mean = kE0;
     m->I_mm4 = kImm4;
     m->comb_rule = "610a";
     m->loadcomb_option = 1;
     set_all_factors(*m, 1.0F);
     return m;
+}
+
+void set_span_count(Model& m, int nf)
+{
+    m.nf = static_cast<std::int16_t>(nf);
+    m.nnodes = static_cast<std::int16_t>(nf + 1);
+    m.support_kind.fill(kSimple);
+    m.support_kind(1) = m.nsupLeft_s;
+    m.support_kind(m.nnodes) = m.nsupRight_s;
 }
 
 void set_all_factors(Model& m, float value)

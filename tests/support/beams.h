@@ -18,6 +18,9 @@ constexpr double kEI = 13000.0;
 std::unique_ptr<Model> make_beam(std::initializer_list<float> spans, char left = kSimple,
                                  char right = kSimple);
 
+// Sets nf and nnodes, with simple supports inside and the ends kept.
+void set_span_count(Model& m, int nf);
+
 // Sets every ULS factor and every deflection factor to `value`.
 void set_all_factors(Model& m, float value);
 
