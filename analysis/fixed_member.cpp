@@ -15,6 +15,18 @@ bool left_of(double x, double a)
     return x - a < kLeftOfLoad;
 }
 
+// A concentrated load closer than `margin` to an end of the span acts at that distance.
+float keep_off_ends(float L, float a, double margin)
+{
+    if (a - margin < 0) {
+        return f32(margin);
+    }
+    if (std::fabs(static_cast<double>(L) - a) - margin < 0) {
+        return f32(L - margin);
+    }
+    return a;
+}
+
 // Clamped-beam deflection of a point load, the part left of the load:
 // P b^2 x^2 (3aL - 3ax - bx) / (6 L^3).
 double clamped_point_left(double L, double x, double P, double a)
@@ -41,11 +53,7 @@ double point_deflection_anywhere(float L, float x, float P, float a)
 
 ShearMoment point_load_forces(float L, float x, float P, float a)
 {
-    if (a - 0.001 < 0) {
-        a = f32(0.001);
-    } else if (std::fabs(static_cast<double>(L) - a) - 0.001 < 0) {
-        a = f32(L - 0.001);
-    }
+    a = keep_off_ends(L, a, 0.001);
     const double Ld = L;
     const float b = f32(Ld - a);
     const float mL = f32(static_cast<double>(P) * a * b * b / (Ld * Ld));
@@ -111,11 +119,7 @@ ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float
 
 ShearMoment moment_load_forces(float L, float x, float M, float a)
 {
-    if (a - 0.0001 < 0) {
-        a = f32(0.0001);
-    } else if (std::fabs(static_cast<double>(L) - a) - 0.0001 < 0) {
-        a = f32(L - 0.0001);
-    }
+    a = keep_off_ends(L, a, 0.0001);
     const double Ld = L;
     const float b = f32(Ld - a);
     const float shear = f32(-6.0 * M * a * b / std::pow(Ld, 3.0));
