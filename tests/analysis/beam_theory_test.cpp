@@ -10,6 +10,7 @@
 #include <cmath>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace kvelder::test {
 namespace {
@@ -61,59 +62,65 @@ void expect_simple_span(const Model& m, const SimpleSpan& ref, double w_tol = kD
     EXPECT_NEAR(m.C_R(2), ref.reaction_right(), kForceTol * scale);
 }
 
-// Loads on one simply supported span, given to the program and to the reference alike.
+// One load row on span 1: uniform q = v1; trapezoid v1 to v2 from a to b; point P = v1 at a;
+// moment M = v1 at a.
+struct SpanLoad {
+    char kind;
+    LoadGroup Model::*group;
+    float v1, v2 = 0, a = 0, b = 0;
+};
+
 struct SimpleCase {
     const char* name;
     float L;
     double w_tol;
-    std::function<void(Model&, SimpleSpan&)> load;
+    std::vector<SpanLoad> loads;
 };
 
 class SimplySupportedSpan : public ::testing::TestWithParam<SimpleCase> {};
 
+// The same loads go to the program and to the reference.
 TEST_P(SimplySupportedSpan, AgreesWithStaticsAndTheIntegratedCurvature)
 {
     const SimpleCase& c = GetParam();
     auto m = make_beam({c.L});
     SimpleSpan ref(c.L, kEI);
-    c.load(*m, ref);
+    for (const SpanLoad& l : c.loads) {
+        LoadGroup& g = (*m).*l.group;
+        switch (l.kind) {
+        case 'u':
+            add_uniform(g, 1, l.v1);
+            ref.line(0, c.L, l.v1, l.v1);
+            break;
+        case 't':
+            add_trapezoid(g, 1, l.v1, l.v2, l.a, l.b);
+            ref.line(l.a, l.b, l.v1, l.v2);
+            break;
+        case 'p':
+            add_point(g, 1, l.v1, l.a);
+            ref.point(l.v1, l.a);
+            break;
+        default:
+            add_moment(g, 1, l.v1, l.a);
+            ref.moment(l.v1, l.a);
+            break;
+        }
+    }
     recalculate(*m);
     expect_simple_span(*m, ref, c.w_tol);
 }
 
-INSTANTIATE_TEST_SUITE_P(Loads, SimplySupportedSpan,
-                         ::testing::Values(SimpleCase{"uniform", 5.0F, kDeflectionTol,
-                                                      [](Model& m, SimpleSpan& r) {
-                                                          add_uniform(m.G, 1, 4.0F);
-                                                          r.line(0, 5, 4, 4);
-                                                      }},
-                                           SimpleCase{"point", 5.0F, kDeflectionTol,
-                                                      [](Model& m, SimpleSpan& r) {
-                                                          add_point(m.G, 1, 10.0F, 1.5F);
-                                                          r.point(10, 1.5);
-                                                      }},
-                                           SimpleCase{"partial_trapezoid", 5.0F, kStripTol,
-                                                      [](Model& m, SimpleSpan& r) {
-                                                          add_trapezoid(m.G, 1, 2.0F, 6.0F, 1.0F, 3.5F);
-                                                          r.line(1.0, 3.5, 2, 6);
-                                                      }},
-                                           SimpleCase{"moment", 5.0F, kDeflectionTol,
-                                                      [](Model& m, SimpleSpan& r) {
-                                                          add_moment(m.G, 1, 8.0F, 2.0F);
-                                                          r.moment(8, 2.0);
-                                                      }},
-                                           SimpleCase{"every_kind_in_three_groups", 6.0F, kStripTol,
-                                                      [](Model& m, SimpleSpan& r) {
-                                                          add_uniform(m.G, 1, 1.5F);
-                                                          add_point(m.Q1, 1, 12.0F, 4.2F);
-                                                          add_trapezoid(m.Q2, 1, 3.0F, 1.0F, 0.0F, 2.0F);
-                                                          add_moment(m.Q2, 1, -5.0F, 3.3F);
-                                                          r.line(0, 6, 1.5, 1.5);
-                                                          r.point(12, 4.2);
-                                                          r.line(0.0, 2.0, 3, 1);
-                                                          r.moment(-5, 3.3);
-                                                      }}),
-                         [](const auto& param_info) { return std::string(param_info.param.name); });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Loads, SimplySupportedSpan, ::testing::Values(
+    SimpleCase{"uniform", 5.0F, kDeflectionTol, {{'u', &Model::G, 4.0F}}},
+    SimpleCase{"point", 5.0F, kDeflectionTol, {{'p', &Model::G, 10.0F, 0, 1.5F}}},
+    SimpleCase{"partial_trapezoid", 5.0F, kStripTol, {{'t', &Model::G, 2.0F, 6.0F, 1.0F, 3.5F}}},
+    SimpleCase{"moment", 5.0F, kDeflectionTol, {{'m', &Model::G, 8.0F, 0, 2.0F}}},
+    SimpleCase{"every_kind_in_three_groups", 6.0F, kStripTol,
+               {{'u', &Model::G, 1.5F}, {'p', &Model::Q1, 12.0F, 0, 4.2F},
+                {'t', &Model::Q2, 3.0F, 1.0F, 0.0F, 2.0F}, {'m', &Model::Q2, -5.0F, 0, 3.3F}}}),
+    [](const auto& param_info) { return std::string(param_info.param.name); });
+// clang-format on
 
 TEST(ContinuousBeam, TwoEqualSpansUnderUniformLoad)
 {

@@ -164,28 +164,5 @@ TEST(Equilibrium, SupportsCarryEveryLoadCaseOfRandomBeams)
     }
 }
 
-TEST(Equilibrium, CombinedSupportForcesCarryTheFactoredTotal)
-{
-    for (unsigned seed = 100; seed <= 120; ++seed) {
-        RandomBeam random(seed);
-        auto m = random.make();
-        m->gamma_G_b = 1.35F;
-        m->gamma_Q1_b = 1.5F;
-        m->gamma_Q2_b = 1.05F;
-        m->comb_rule = "610b";
-        recalculate(*m);
-
-        const double expected = 1.35 * resultant(*m, m->G).force + 1.5 * resultant(*m, m->Q1).force +
-                                1.05 * resultant(*m, m->Q2).force;
-        double sum = 0;
-        for (int k = 1; k <= m->nsup; ++k) {
-            sum += m->C_R(k);
-        }
-        const double scale =
-            resultant(*m, m->G).scale + resultant(*m, m->Q1).scale + resultant(*m, m->Q2).scale;
-        EXPECT_NEAR(sum, expected, 2e-5 * scale + 1e-4) << "seed " << seed;
-    }
-}
-
 } // namespace
 } // namespace kvelder::test
