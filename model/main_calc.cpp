@@ -1,41 +1,116 @@
 #include "model/main_calc.h"
 
-#include "analysis/stiffness.h"
-#include "combination/runner.h"
-#include "combination/scratch_files.h"
-
-#include <cmath>
+#include "analysis/points.h"
+#include "design/buckling.h"
+#include "design/factors.h"
+#include "design/section.h"
+#include "design/section_checks.h"
+#include "model/run_analysis.h"
 
 namespace kvelder {
 namespace {
 
-// E in kN/m2 and I in m4 for the stiffness work, from N/mm2 and mm4.
-void analysis_constants(Model& m)
+struct GroupParts {
+    LoadGroupId id;
+    Picture picture;
+};
+
+constexpr GroupParts kGroups[] = {{LoadGroupId::G, Picture::Picegenlast},
+                                  {LoadGroupId::Q1, Picture::Picnyttelast},
+                                  {LoadGroupId::Q2, Picture::Picnyttelast_2}};
+
+// The four tables of a group in order; the point and moment tables that pass
+// add their positions to the grids.
+std::optional<LoadRowFailure> check_group(Model& m, LoadGroupId id)
 {
-    m.E_kNm2 = static_cast<double>(m.E0_mean) * 1000;
-    const double mm4_per_m4 = std::pow(1000.0, 4.0);
-    for (int i = 1; i <= m.nf; ++i) {
-        m.I_span_m4(i) = m.I_mm4 / mm4_per_m4;
+    LoadGroup& group = group_of(m, id);
+    LoadPointLists& lists = id == LoadGroupId::G    ? m.G_points
+                            : id == LoadGroupId::Q1 ? m.Q1_points
+                                                    : m.Q2_points;
+    for (LoadTable table : {LoadTable::Uniform, LoadTable::Trapezoid, LoadTable::Point, LoadTable::Moment}) {
+        if (auto failure = check_load_table(m, id, table)) {
+            return failure;
+        }
+        if (table == LoadTable::Point) {
+            collect_load_points(m, group, lists, PointTable::Point);
+        } else if (table == LoadTable::Moment) {
+            collect_load_points(m, group, lists, PointTable::Moment);
+        }
     }
+    return std::nullopt;
+}
+
+std::int16_t& empty_flag(Model& m, LoadGroupId id)
+{
+    return id == LoadGroupId::G ? m.G_empty : id == LoadGroupId::Q1 ? m.Q1_empty : m.Q2_empty;
 }
 
 } // namespace
 
-void MainCalc(Model& m, const std::filesystem::path& scratch_folder)
+void check_loads(Model& m, CalcScreen& screen)
 {
-    analysis_constants(m);
-    assemble_and_factorise(m);
+    // The grids follow the spans even when a failing row stops the collection early.
+    divide_spans(m, m.nxtot_s, 50, m.xl_s);
+    divide_spans(m, m.nxtot10_s, 10, m.xl10_s);
+    for (const GroupParts& part : kGroups) {
+        screen.clear_picture(part.picture);
+        m.err_load_item = kFalse;
+        const std::optional<LoadRowFailure> failure = check_group(m, part.id);
+        // The grid is kept sorted even after a failure, so that nothing reads it out of order.
+        normalise_grid(m, m.nxtot_s, 50, m.xl_s);
+        const bool self_weight = part.id == LoadGroupId::G && is_true(m.profile_weight_on);
+        empty_flag(m, part.id) = flag_of(group_of(m, part.id).empty() && !self_weight);
+        if (failure) {
+            m.err_load_item = kTrue;
+            screen.show_load_dialog(*failure);
+            if (const auto message = failure_message(m.language, *failure)) {
+                screen.show_message(*message);
+            }
+            return;
+        }
+    }
+    if (is_true(m.G_empty) || is_true(m.Q1_empty)) {
+        m.loadcomb_option = 1;
+    }
+    const bool all_empty = is_true(m.G_empty) && is_true(m.Q1_empty) && is_true(m.Q2_empty);
+    if (all_empty) {
+        screen.clear_picture(Picture::Picresult);
+        screen.clear_picture(Picture::Picdisp);
+    }
+    m.err_section = flag_of(all_empty);
+}
 
-    clear_case(m);
-    clear_combination(m);
-    m.C_Winst.fill(0);
-    clear_envelopes(m);
+void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder)
+{
+    m.calc_invalid = kFalse;
+    const bool data_missing =
+        is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) || is_true(m.err_section);
+    if (data_missing) {
+        screen.show_message(*ShowMessageEng(500)); // English in either language
+        return;
+    }
 
-    ScratchFiles trace(scratch_folder);
-    if (m.loadcomb_option == 1) {
-        run_total(m, trace);
-    } else if (m.loadcomb_option == 2) {
-        run_patterns(m, trace);
+    Calc_load_factors(m);
+    Read_material_data(m, m.material_row);
+    Calc_kdef(m);
+    check_loads(m, screen);
+    Calc_kcr(m);
+    Calc_kmod(m);
+    Calc_kh(m);
+    Calc_gamma_M(m);
+    Calc_design_strength(m);
+    Check_section_input(m);
+    if (m.vipping_off == 0) {
+        Calc_leff(m);
+    }
+
+    run_analysis(m, scratch_folder);
+    screen.clear_picture(Picture::Picresult);
+    screen.clear_picture(Picture::Picdisp);
+
+    Control_sections(m);
+    if (m.section_form == "Firk") {
+        Control_support(m);
     }
 
     m.loading_flag = kFalse;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/catalogues.h"
 #include "model/load_group.h"
 #include "model/numbers.h"
 #include "model/table.h"
@@ -59,7 +60,67 @@ struct Model {
     std::int16_t loadcomb_option = 1; // 1 total variable load, 2 patterned
     std::string comb_rule = "610b";   // "610a" or "610b"
     std::string language = "Eng";     // "Eng" or "Nor"
-    std::string annex = "Nor";        // "Nor", "Swe" or "Euc"
+    std::string annex = "Nor";        // "Nor", "Swe", "Euc", "Uk ", "Fin" or "Den"
+    std::string annex_s = "Nor";      // the same code; the crack-factor rule reads this copy
+    std::string annex_title;          // shown after the program's name
+    std::string title_suffix;         // window title before the project path
+    std::int16_t decimal_comma = 0;   // non-zero where the machine writes 1,5
+
+    // --- Catalogues and setup as read (a project carries its own copies) --------------
+    MaterialTable material_table;
+    ProfileTable profile_table;
+    ProfileFamilies profile_families;
+    FileDatabase setup;
+
+    // --- Classes and choices of the design ------------------------------------------
+    std::int16_t duration_class = 3;            // load-duration class 1..5
+    std::int16_t service_class = 1;             // 1..3
+    std::int16_t safety_class = 2;              // reliability class (Norway) or safety class (Sweden)
+    std::string material_family = "lam_bjelke"; // 10 characters, blank-padded
+    std::string section_form = "Firk";          // "Firk" rectangle or "Tube" circle
+    std::int16_t material_row = 24;
+    std::int16_t prof_type_index = 1; // 0 timber, 1 laminated, 2 kerto, 3 k_bjelke
+    std::int16_t prof_index = 52;
+    std::int16_t standard_section = kTrue;
+    float ksys = 1.0F;
+    std::int16_t kcr_exposed = kFalse;
+    float gamma_timb = 0, gamma_lam = 0, gamma_kerto = 0, gamma_k_bjelke = 0;
+    float kcr_timb = 0, kcr_lam = 0, kcr_kerto = 0, kcr_k_bjelke = 0;
+    std::int16_t psi0_1_index = 0, psi0_2_index = 0, psi2_1_index = 0, psi2_2_index = 0;
+    float psi0_1 = 0, psi0_2 = 0, psi2_1 = 0, psi2_2 = 0;
+
+    // --- Active material (MPa, kg/m3) ----------------------------------------------------
+    float fmk = 0, ft0k = 0, fc90k = 0, fvk = 0, E0_05 = 0, spare = 0, density = 0, s_exponent = 0;
+
+    // --- Factors ---------------------------------------------------------------------------
+    float gamma_M = 0, kcr = 0, kmod = 0, kdef = 0, kh = 0, kfi = 0;
+
+    // --- Section (mm) and its properties ---------------------------------------------------
+    float section_b = 0, section_h = 0, section_d = 400.0F;
+    float Wyy = 0, Axx = 0, Azz = 0;   // mm3, mm2, mm2 (Azz already times kcr)
+    float fmd = 0, fvd = 0, fc90d = 0; // design strengths, MPa
+    std::int16_t calc_invalid = kFalse;
+
+    // --- Lateral torsional buckling ---------------------------------------------------------
+    std::int16_t vipping_off = kTrue; // true: compression side held, no check
+    std::int16_t load_location = 0;   // 0 load on top of the beam, 1 at the bottom
+    Table<float, kMaxSpans> l_stag;   // m between lateral braces
+    Table<float, kMaxSpans> lef_factor;
+    Table<float, kMaxSpans> l_eff, sigma_m_crit, lambda_rel_m, k_crit;
+    Table<float, kMaxSpans> Uf_ltb, M_ltb, sigma_ltb;
+    Table2<float, kMaxSpans, kMaxPoints> sigma_ltb_st, Uf_ltb_st;
+
+    // --- Bending and shear checks per span ----------------------------------------------------
+    Table<float, kMaxSpans> Uf_pos, Uf_neg, M_pos, M_neg, sigma_pos, sigma_neg, x_pos, x_neg;
+    Table<float, kMaxSpans> Uf_mom, M_gov, x_mom;
+    Table<float, kMaxSpans> Uf_tau_pos, Uf_tau_neg, V_pos, V_neg, tau_pos, tau_neg, xt_pos, xt_neg;
+    Table<float, kMaxSpans> Uf_tau, tau_gov, V_gov, xt_gov;
+    Table2<float, kMaxSpans, kMaxPoints> sigma_st, Uf_sigma_st, tau_st, Uf_tau_st;
+
+    // --- Bearing at the nodes ---------------------------------------------------------------------
+    Table<float, kMaxNodes> bearing_kc90;   // kc90 as the engineer gives it
+    Table<float, kMaxNodes> bearing_length; // mm in the grain direction
+    Table<float, kMaxNodes> sigma_c90, Uf_c90;
 
     // --- Load factors ---------------------------------------------------------------
     float creep_G = 0, creep_Q1 = 0, creep_Q2 = 0;

@@ -3,7 +3,7 @@
 
 #include "analysis/points.h"
 #include "files/byte_record.h"
-#include "model/main_calc.h"
+#include "model/run_analysis.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +49,7 @@ std::unique_ptr<Model> two_span_beam()
 void run_in(Model& m, const fs::path& folder)
 {
     build_calculation_grids(m);
-    MainCalc(m, folder);
+    run_analysis(m, folder);
 }
 
 TEST(ScratchFiles, ResultRecordHoldsTheFinalCombinationOfItsPattern)

@@ -1,7 +1,8 @@
 #include "tests/support/beams.h"
 
 #include "analysis/points.h"
-#include "model/main_calc.h"
+#include "files/start_values.h"
+#include "model/run_analysis.h"
 
 #include <unistd.h>
 
@@ -103,7 +104,19 @@ const std::filesystem::path& scratch_folder()
 void recalculate(Model& m)
 {
     build_calculation_grids(m);
-    MainCalc(m, scratch_folder());
+    run_analysis(m, scratch_folder());
+}
+
+std::filesystem::path source_data_dir()
+{
+    return KVELDER_SOURCE_DATA_DIR;
+}
+
+std::unique_ptr<Model> example_beam()
+{
+    auto m = std::make_unique<Model>();
+    start_up(*m, source_data_dir());
+    return m;
 }
 
 } // namespace kvelder::test

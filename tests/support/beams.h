@@ -33,7 +33,13 @@ void add_moment(LoadGroup& g, int span, float M, float a);
 // A folder of its own for the scratch files of this test process.
 const std::filesystem::path& scratch_folder();
 
-// Builds the calculation grids and recalculates.
+// Builds the calculation grids and runs the analysis on the factors as set.
 void recalculate(Model& m);
+
+// The example beam of start-up, read from the data files of the source tree.
+std::unique_ptr<Model> example_beam();
+
+// The data folder of the source tree.
+std::filesystem::path source_data_dir();
 
 } // namespace kvelder::test

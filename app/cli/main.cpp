@@ -1,0 +1,255 @@
+// kvelder-cli: the calculation without the window, for scripts and for tests.
+
+#include "app/cli/beam_description.h"
+#include "app/cli/result_json.h"
+#include "app/cli/result_text.h"
+#include "files/start_values.h"
+#include "files/text_lines.h"
+#include "model/main_calc.h"
+#include "ui/input_checks.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fs = std::filesystem;
+using namespace kvelder;
+
+namespace {
+
+constexpr int kCalculated = 0;
+constexpr int kCheckFailed = 1;
+constexpr int kUsageError = 2;
+
+constexpr const char* kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--text]\n"
+                               "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
+                               "INPUT is a beam description (.json); without it the example beam is used.\n";
+
+// A failure that ends the command with its exit code and one line on stderr.
+struct Stop {
+    int code;
+    std::string line;
+};
+
+struct Options {
+    std::string command;
+    std::optional<fs::path> input;
+    std::optional<fs::path> data_dir;
+    bool text = false;
+    int runs = 1000;
+};
+
+Options parse(const std::vector<std::string>& args)
+{
+    if (args.empty() || args[0] == "--help" || args[0] == "-h") {
+        throw Stop{args.empty() ? kUsageError : kCalculated, ""};
+    }
+    Options o;
+    o.command = args[0];
+    if (o.command != "calc" && o.command != "bench") {
+        throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
+    }
+    for (std::size_t k = 1; k < args.size(); ++k) {
+        const std::string& a = args[k];
+        const auto value = [&]() -> const std::string& {
+            if (k + 1 >= args.size()) {
+                throw Stop{kUsageError, a + " needs a value"};
+            }
+            return args[++k];
+        };
+        if (a == "--data-dir") {
+            o.data_dir = fs::path(value());
+        } else if (a == "--text" && o.command == "calc") {
+            o.text = true;
+        } else if (a == "-n" && o.command == "bench") {
+            const std::string& n = value();
+            try {
+                std::size_t used = 0;
+                o.runs = std::stoi(n, &used);
+                if (used != n.size() || o.runs < 1) {
+                    throw std::invalid_argument(n);
+                }
+            } catch (const std::logic_error&) {
+                throw Stop{kUsageError, "-n needs a whole number of runs above 0, not \"" + n + "\""};
+            }
+        } else if (!a.empty() && a[0] == '-') {
+            throw Stop{kUsageError, "unknown option \"" + a + "\" for " + o.command};
+        } else if (o.input) {
+            throw Stop{kUsageError, "only one INPUT may be given"};
+        } else {
+            o.input = fs::path(a);
+        }
+    }
+    return o;
+}
+
+// The data folder installed beside the program, or the one of the source tree
+// that a build runs from.
+fs::path installed_data_dir()
+{
+    std::error_code ec;
+    const fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+    if (!ec) {
+        const fs::path beside = exe.parent_path().parent_path() / "share" / "kvelder";
+        if (fs::exists(beside / "EC5Material.csv", ec)) {
+            return beside;
+        }
+    }
+    return fs::path(KVELDER_SOURCE_DATA_DIR);
+}
+
+void read_description(Model& m, const fs::path& input)
+{
+    if (input.extension() != ".json") {
+        throw Stop{kUsageError, input.string() + ": only beam descriptions (.json) can be read"};
+    }
+    const std::optional<std::string> text = read_text_file(input);
+    if (!text) {
+        throw Stop{kUsageError, input.string() + ": cannot be read"};
+    }
+    nlohmann::json description;
+    try {
+        description = nlohmann::json::parse(*text);
+    } catch (const nlohmann::json::parse_error& e) {
+        throw Stop{kUsageError, input.string() + ": not valid JSON (" + e.what() + ")"};
+    }
+    try {
+        cli::apply_description(m, description);
+    } catch (const cli::DescriptionError& e) {
+        throw Stop{kUsageError, input.string() + ": " + e.what()};
+    }
+}
+
+std::string message_line(const Message& msg)
+{
+    return msg.title.empty() ? msg.text : msg.title + ": " + msg.text;
+}
+
+const char* group_name(LoadGroupId id)
+{
+    return id == LoadGroupId::G ? "G" : id == LoadGroupId::Q1 ? "Q1" : "Q2";
+}
+
+const char* table_name(LoadTable t)
+{
+    switch (t) {
+    case LoadTable::Uniform:
+        return "uniform";
+    case LoadTable::Trapezoid:
+        return "trapezoidal";
+    case LoadTable::Point:
+        return "point";
+    case LoadTable::Moment:
+        break;
+    }
+    return "moment";
+}
+
+// The beam ready for its recalculation: start-up, the description, and every
+// check that typing it into the window would run. The failed checks' messages.
+std::vector<Message> prepare(Model& m, const Options& o)
+{
+    const fs::path data_dir = o.data_dir.value_or(installed_data_dir());
+    if (o.data_dir && !fs::is_directory(data_dir)) {
+        throw Stop{kUsageError, "--data-dir " + data_dir.string() + ": no such folder"};
+    }
+    for (const DataFileNote& note : start_up(m, data_dir)) {
+        std::cerr << "kvelder-cli: " << message_line(data_file_message("Eng", note)) << '\n';
+    }
+    if (o.input) {
+        read_description(m, *o.input);
+    }
+    return check_all_boxes(m);
+}
+
+// One recalculation; the messages it raised. A failing load row without a
+// message of its own still fails the run.
+bool calculate(Model& m, std::vector<Message>& messages)
+{
+    RecordingScreen screen;
+    MainCalc(m, screen);
+    messages.insert(messages.end(), screen.messages.begin(), screen.messages.end());
+    for (const LoadRowFailure& f : screen.load_failures) {
+        if (!failure_message(m.language, f)) {
+            std::cerr << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row "
+                      << f.row << ": the span number is not a span of the beam (check " << f.code << ")\n";
+        }
+    }
+    return screen.messages.empty() && screen.load_failures.empty();
+}
+
+int report_failure(const std::vector<Message>& messages)
+{
+    for (const Message& msg : messages) {
+        std::cerr << "kvelder-cli: " << message_line(msg) << '\n';
+    }
+    return kCheckFailed;
+}
+
+int calc(const Options& o)
+{
+    auto m = std::make_unique<Model>();
+    std::vector<Message> messages = prepare(*m, o);
+    if (!messages.empty() || !calculate(*m, messages)) {
+        if (!o.text) {
+            std::cout << nlohmann::ordered_json{{"messages", cli::messages_json(messages)}}.dump(2) << '\n';
+        }
+        return report_failure(messages);
+    }
+    if (o.text) {
+        std::cout << cli::result_text(*m);
+    } else {
+        std::cout << cli::result_json(*m, messages).dump(2) << '\n';
+    }
+    return kCalculated;
+}
+
+int bench(const Options& o)
+{
+    auto m = std::make_unique<Model>();
+    std::vector<Message> messages = prepare(*m, o);
+    if (!messages.empty() || !calculate(*m, messages)) { // the warm-up run
+        return report_failure(messages);
+    }
+    std::vector<double> times;
+    times.reserve(static_cast<std::size_t>(o.runs));
+    RecordingScreen screen;
+    for (int r = 0; r < o.runs; ++r) {
+        const auto start = std::chrono::steady_clock::now();
+        MainCalc(*m, screen);
+        const auto stop = std::chrono::steady_clock::now();
+        times.push_back(std::chrono::duration<double, std::micro>(stop - start).count());
+    }
+    std::sort(times.begin(), times.end());
+    const std::size_t mid = times.size() / 2;
+    const double median = times.size() % 2 == 1 ? times[mid] : (times[mid - 1] + times[mid]) / 2;
+    std::cout
+        << nlohmann::ordered_json{{"runs", o.runs}, {"median_us", median}, {"min_us", times.front()}}.dump()
+        << '\n';
+    return kCalculated;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        const Options o = parse(std::vector<std::string>(argv + 1, argv + argc));
+        return o.command == "calc" ? calc(o) : bench(o);
+    } catch (const Stop& stop) {
+        if (stop.line.empty()) {
+            (stop.code == kCalculated ? std::cout : std::cerr) << kUsage;
+        } else {
+            std::cerr << "kvelder-cli: " << stop.line << '\n';
+        }
+        return stop.code;
+    } catch (const std::exception& e) {
+        std::cerr << "kvelder-cli: " << e.what() << '\n';
+        return kUsageError;
+    }
+}

@@ -1,0 +1,113 @@
+#include "design/section_checks.h"
+
+#include "design/buckling.h"
+
+#include <cmath>
+
+namespace kvelder {
+namespace {
+
+struct Governing {
+    float uf = 0, stress = 0, force = 0, x = 0;
+};
+
+// The station of the largest usage factor along span i. `force(j)` is the
+// envelope value at station j; |force x factor| x scale / section is its stress
+// in MPa, and `strength` the design strength.
+template <typename Force>
+Governing largest(Model& m, int i, Force force, float cut, double factor, double scale, double section,
+                  double strength, Table2<float, kMaxSpans, kMaxPoints>& stress_st,
+                  Table2<float, kMaxSpans, kMaxPoints>& uf_st)
+{
+    Governing g;
+    for (int j = 1; j <= m.nxtot_s(i); ++j) {
+        const float f = force(j);
+        if (std::abs(f) < cut) {
+            uf_st(i, j) = 0;
+            stress_st(i, j) = 0;
+        } else {
+            stress_st(i, j) = f32(std::abs(f * factor) * scale / section);
+            uf_st(i, j) = f32(stress_st(i, j) / strength);
+        }
+        if (g.uf < uf_st(i, j)) {
+            g = {uf_st(i, j), stress_st(i, j), f, m.xl_s(i, j)};
+        }
+    }
+    return g;
+}
+
+} // namespace
+
+void Control_sections(Model& m)
+{
+    for (int i = 1; i <= kMaxSpans; ++i) {
+        m.Uf_pos(i) = m.Uf_neg(i) = m.M_pos(i) = m.M_neg(i) = 0;
+        m.x_pos(i) = m.x_neg(i) = m.sigma_pos(i) = m.sigma_neg(i) = 0;
+        m.Uf_tau_pos(i) = m.Uf_tau_neg(i) = m.V_pos(i) = m.V_neg(i) = 0;
+        m.tau_pos(i) = m.tau_neg(i) = m.xt_pos(i) = m.xt_neg(i) = 0;
+    }
+    for (int i = 1; i <= m.nf; ++i) {
+        const Governing pos = largest(
+            m, i, [&](int j) { return m.M_max(i, j); }, 0.0001F, 1.0, 1000000.0, m.Wyy, m.fmd, m.sigma_st,
+            m.Uf_sigma_st);
+        const Governing neg = largest(
+            m, i, [&](int j) { return m.M_min(i, j); }, 0.0001F, 1.0, 1000000.0, m.Wyy, m.fmd, m.sigma_st,
+            m.Uf_sigma_st);
+        m.Uf_pos(i) = pos.uf, m.sigma_pos(i) = pos.stress, m.M_pos(i) = std::abs(pos.force),
+        m.x_pos(i) = pos.x;
+        m.Uf_neg(i) = neg.uf, m.sigma_neg(i) = neg.stress, m.M_neg(i) = std::abs(neg.force),
+        m.x_neg(i) = neg.x;
+        const bool neg_governs = m.Uf_neg(i) > m.Uf_pos(i);
+        m.Uf_mom(i) = neg_governs ? m.Uf_neg(i) : m.Uf_pos(i);
+        m.M_gov(i) = neg_governs ? m.M_neg(i) : m.M_pos(i);
+        m.x_mom(i) = neg_governs ? m.x_neg(i) : m.x_pos(i);
+    }
+    for (int i = 1; i <= m.nf; ++i) {
+        const Governing pos = largest(
+            m, i, [&](int j) { return m.V_max(i, j); }, 0.00001F, 1.5, 1000.0, m.Azz, m.fvd, m.tau_st,
+            m.Uf_tau_st);
+        const Governing neg = largest(
+            m, i, [&](int j) { return m.V_min(i, j); }, 0.00001F, 1.5, 1000.0, m.Azz, m.fvd, m.tau_st,
+            m.Uf_tau_st);
+        m.Uf_tau_pos(i) = pos.uf, m.tau_pos(i) = pos.stress, m.V_pos(i) = pos.force, m.xt_pos(i) = pos.x;
+        m.Uf_tau_neg(i) = neg.uf, m.tau_neg(i) = neg.stress, m.V_neg(i) = neg.force, m.xt_neg(i) = neg.x;
+        const bool neg_governs = m.Uf_tau_neg(i) > m.Uf_tau_pos(i);
+        m.Uf_tau(i) = neg_governs ? m.Uf_tau_neg(i) : m.Uf_tau_pos(i);
+        m.tau_gov(i) = neg_governs ? m.tau_neg(i) : m.tau_pos(i);
+        m.V_gov(i) = neg_governs ? m.V_neg(i) : m.V_pos(i);
+        m.xt_gov(i) = neg_governs ? m.xt_neg(i) : m.xt_pos(i);
+    }
+    Check_lateral_buckling(m);
+}
+
+int reaction_index(const Model& m, int node)
+{
+    return m.nsupLeft_s == kFree ? node - 1 : node;
+}
+
+char bearing_kind(const Model& m, int node)
+{
+    if (node == 1 && (m.nsupLeft_s == kFree || m.nsupLeft_s == kBuiltIn)) {
+        return m.nsupLeft_s;
+    }
+    if (node == m.nnodes && (m.nsupRight_s == kFree || m.nsupRight_s == kBuiltIn)) {
+        return m.nsupRight_s;
+    }
+    return kSimple;
+}
+
+void Control_support(Model& m)
+{
+    for (int i = 1; i <= m.nnodes; ++i) {
+        if (bearing_kind(m, i) != kSimple) {
+            continue;
+        }
+        const float R = m.R_max(reaction_index(m, i));
+        // A node without pressure keeps a small stress rather than an exact nought.
+        m.sigma_c90(i) =
+            R > 0.001F ? f32(R * 1000.0 / (static_cast<double>(m.section_b) * m.bearing_length(i))) : 0.001F;
+        m.Uf_c90(i) = f32(m.sigma_c90(i) / (static_cast<double>(m.fc90d) * m.bearing_kc90(i)));
+    }
+}
+
+} // namespace kvelder

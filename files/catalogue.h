@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/catalogues.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace kvelder {
+
+// What a reader noticed in a file that it read all the same.
+struct ReadNotes {
+    int rows_dropped = 0; // data rows beyond the table's last row
+};
+
+// The catalogues from their text: 7 head lines, then one line a row; a line is
+// a data row when its third column starts with "S", and any other line is
+// skipped without using up a row. A column that is missing or no number leaves
+// its field at 0. Rows beyond the table are dropped and counted in the notes.
+MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
+ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
+
+// The four family lists, rebuilt in table order. An unknown family code drops
+// the row from every list.
+ProfileFamilies SplitProfileFamilies(const ProfileTable& profiles);
+
+// The rows a table holds (its last row index plus one).
+inline int row_count(const MaterialTable& t)
+{
+    return t.last_row + 1;
+}
+inline int row_count(const ProfileTable& t)
+{
+    return t.last_row + 1;
+}
+
+} // namespace kvelder

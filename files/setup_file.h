@@ -1,0 +1,34 @@
+#pragma once
+
+#include "files/catalogue.h"
+#include "model/catalogues.h"
+#include "model/model.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace kvelder {
+
+// The program's name, first in every window title.
+inline constexpr std::string_view kProductTitle = "Kvelder";
+
+// The setup file from its text: two free lines, the language line, the line of
+// the selected row, two free lines, then one national annex a line.
+FileDatabase ReadSetupFile(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
+
+// The text of the setup file; head lines and labels are kept as they were read.
+std::string SetupFileText(const FileDatabase& db, std::int16_t decimal_comma);
+
+// Writes the setup file in one step: a new file replaces the old one only when
+// it is complete. False when it could not be written; the old file then stands.
+bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const std::filesystem::path& path);
+
+// From the setup in the model to the language, the annex, the title and the
+// active factors. A selected row that the table does not hold falls back to row 0.
+void ApplySetupRow(Model& m);
+
+// From the active factors back to the selected row of the setup in the model.
+void StoreSetupRow(Model& m);
+
+} // namespace kvelder

@@ -1,0 +1,82 @@
+#include "files/start_values.h"
+
+#include "analysis/points.h"
+#include "design/factors.h"
+#include "design/section.h"
+#include "files/setup_file.h"
+#include "files/text_number.h"
+
+namespace kvelder {
+
+void StartBeam(Model& m)
+{
+    m.nf = 2;
+    m.nnodes = 3;
+    m.nsup = 3;
+    m.ffl_s.fill(0);
+    m.ffl_s(1) = 5.0F;
+    m.ffl_s(2) = 5.0F;
+    m.nsupLeft_s = kSimple;
+    m.nsupRight_s = kSimple;
+    m.support_kind.fill(kSimple);
+    m.comb_rule = "610a";
+    m.loadcomb_option = 1;
+}
+
+void StartLoads(Model& m)
+{
+    m.G = LoadGroup{};
+    m.Q1 = LoadGroup{};
+    m.Q2 = LoadGroup{};
+    for (int k = 1; k <= m.nf; ++k) {
+        m.G.uni_span(k) = static_cast<std::int16_t>(k);
+        m.G.uni_q(k) = 2.0F;
+        m.Q1.uni_span(k) = static_cast<std::int16_t>(k);
+        m.Q1.uni_q(k) = 4.0F;
+    }
+    m.G.uni_n = m.nf;
+    m.Q1.uni_n = m.nf;
+}
+
+void StartSection(Model& m)
+{
+    m.duration_class = 3;
+    m.service_class = 1;
+    m.ksys = 1.0F;
+    m.material_row = 24;
+    m.material_family = kLaminated;
+    m.prof_type_index = 1;
+    m.prof_index = 52;
+    // A shorter laminated list than the shipped one gives its middle row.
+    if (!Read_profile_dimensions(m, 1, 52)) {
+        m.prof_index = static_cast<std::int16_t>(m.profile_families.of(1).size() / 2);
+        Read_profile_dimensions(m, 1, m.prof_index);
+    }
+    m.standard_section = kTrue;
+    m.section_form = "Firk";
+    m.section_d = 400.0F;
+    m.bearing_kc90.fill(1.0F);
+    m.bearing_length.fill(90.0F);
+    m.vipping_off = kTrue;
+    m.lef_factor.fill(0.9F);
+    m.load_location = 0;
+    for (int k = 1; k <= kMaxSpans; ++k) {
+        m.l_stag(k) = m.ffl_s(k);
+    }
+}
+
+std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder)
+{
+    m.decimal_comma = DecimalProbe();
+    std::vector<DataFileNote> notes = ReadDataFiles(m, data_folder);
+    ApplySetupRow(m);
+    m.loading_flag = kTrue;
+    StartBeam(m);
+    StartLoads(m);
+    StartSection(m);
+    m.nf_previous = m.nf;
+    build_calculation_grids(m);
+    return notes;
+}
+
+} // namespace kvelder

@@ -1,0 +1,110 @@
+#include "files/text_number.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <locale>
+
+namespace kvelder {
+namespace {
+
+bool is_blank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+// The longest leading decimal number of `s` (sign, digits, point, exponent);
+// 0 when there is none. No value when it overflows a double.
+std::optional<double> leading_number(const std::string& s)
+{
+    const char* first = s.data();
+    const char* last = s.data() + s.size();
+    bool negative = false;
+    if (first != last && (*first == '+' || *first == '-')) {
+        negative = *first == '-';
+        ++first;
+    }
+    // from_chars would also take "inf" and "nan", which are no numbers here.
+    if (first == last || !(std::isdigit(static_cast<unsigned char>(*first)) || *first == '.')) {
+        return 0.0;
+    }
+    double value = 0;
+    const std::errc ec = std::from_chars(first, last, value).ec;
+    if (ec == std::errc::invalid_argument) {
+        return 0.0;
+    }
+    if (ec == std::errc::result_out_of_range) {
+        return std::nullopt;
+    }
+    return negative ? -value : value;
+}
+
+// The whole text as one number, blanks around it allowed.
+std::optional<double> whole_number(std::string s)
+{
+    while (!s.empty() && is_blank(s.back())) {
+        s.pop_back();
+    }
+    std::replace(s.begin(), s.end(), ',', '.');
+    const char* first = s.data();
+    const char* last = s.data() + s.size();
+    if (first != last && *first == '+') {
+        ++first;
+    }
+    if (first == last || std::strchr("0123456789.-", *first) == nullptr) {
+        return std::nullopt;
+    }
+    double value = 0;
+    const auto [end, ec] = std::from_chars(first, last, value);
+    if (ec != std::errc{} || end != last) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<float> to_single(std::optional<double> v)
+{
+    if (!v || std::abs(*v) > std::numeric_limits<float>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<float>(*v);
+}
+
+} // namespace
+
+std::int16_t DecimalProbe()
+{
+    try {
+        const std::locale user("");
+        return std::use_facet<std::numpunct<char>>(user).decimal_point() == '.' ? 0 : 1;
+    } catch (const std::runtime_error&) {
+        return 0; // no usable locale in the environment: the C convention
+    }
+}
+
+std::optional<float> TextToNumber(std::string& text, std::int16_t decimal_comma)
+{
+    if (text.empty()) {
+        return 0.0F;
+    }
+    text.erase(0, std::min(text.find_first_not_of(" \t"), text.size()));
+    if (decimal_comma != 0) {
+        std::replace(text.begin(), text.end(), '.', ',');
+        return to_single(whole_number(text));
+    }
+    std::replace(text.begin(), text.end(), ',', '.');
+    return to_single(leading_number(text));
+}
+
+std::optional<std::int16_t> TextToInt16(std::string& text, std::int16_t decimal_comma)
+{
+    const std::optional<float> v = TextToNumber(text, decimal_comma);
+    if (!v || !(*v >= -32768.5F && *v < 32767.5F)) {
+        return std::nullopt;
+    }
+    return static_cast<std::int16_t>(std::nearbyint(*v));
+}
+
+} // namespace kvelder

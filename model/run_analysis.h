@@ -1,0 +1,16 @@
+#pragma once
+
+#include "model/model.h"
+
+#include <filesystem>
+
+namespace kvelder {
+
+// The analysis of one recalculation on the grids and factors as they stand:
+// E and I for the stiffness work, the band matrix built and factorised once,
+// and every load case, combination and envelope of the load-combination
+// option, from cleared tables. The trace goes to `scratch_folder` (the current
+// directory when empty) where that is possible.
+void run_analysis(Model& m, const std::filesystem::path& scratch_folder = {});
+
+} // namespace kvelder

@@ -1,0 +1,100 @@
+#include "ui/input_checks.h"
+
+#include "analysis/numbering.h"
+
+namespace kvelder {
+
+std::optional<Message> check_box(const Model& m, Box box, float value, int span)
+{
+    const bool eng = m.language == "Eng";
+    switch (box) {
+    case Box::Width:
+        return value <= 0 ? std::optional<Message>({0, "", eng ? " b =< 0 " : "b =< 0 "}) : std::nullopt;
+    case Box::Height:
+        return value <= 0 ? std::optional<Message>({0, "", " h =< 0 "}) : std::nullopt;
+    case Box::Diameter:
+        return value <= 0 ? std::optional<Message>({0, "", " d =< 0 "}) : std::nullopt;
+    case Box::Kc90:
+        // kc90 divides the strength: 0 is refused with the negative values.
+        return value <= 0 ? std::optional<Message>({0, "", " kc90 < 0 "}) : std::nullopt;
+    case Box::BearingLength:
+        return value <= 0
+                   ? std::optional<Message>({0, "", eng ? "Support length =< 0 " : "Oppleggslengde =< 0 "})
+                   : std::nullopt;
+    case Box::Ksys:
+        return value < 1 || value > 1.2F ? std::optional<Message>({0, "", " 1 <= ksys <= 1.2"})
+                                         : std::nullopt;
+    case Box::LStag:
+        return value <= 0.3F || value > m.ffl_s(span)
+                   ? std::optional<Message>(
+                         {0, "", eng ? " l_stag =< 0.30 m or > span" : " l_stag =< 0.3 m eller > feltlengde"})
+                   : std::nullopt;
+    case Box::LefFactor:
+        return value < 0.2F || value > 2.0F
+                   ? std::optional<Message>(
+                         {0, "", eng ? "lef_faktor < 0.2 or > 2.0 " : " lef_faktor < 0.2 or > 2.0  "})
+                   : std::nullopt;
+    case Box::SetupFactor:
+        return value <= 0.1F ? std::optional<Message>({0, "", "Number is <= 0.1 "}) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::optional<int> check_spans(Model& m, std::optional<Message>& message)
+{
+    m.err_spans = kFalse;
+    for (int i = 1; i <= m.nf; ++i) {
+        if (!(m.ffl_s(i) > 0)) {
+            m.err_spans = kTrue;
+            message = span_length_missing(m.language);
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Message> check_supports(Model& m)
+{
+    m.support_kind(1) = m.nsupLeft_s;
+    m.support_kind(m.nnodes) = m.nsupRight_s;
+    restraint_table(m);
+    m.err_supports = flag_of(!restraints_sufficient(m));
+    if (is_true(m.err_supports)) {
+        return supports_unstable(m.language);
+    }
+    return std::nullopt;
+}
+
+std::vector<Message> check_all_boxes(Model& m)
+{
+    std::vector<Message> messages;
+    const auto add = [&messages](const std::optional<Message>& message) {
+        if (message) {
+            messages.push_back(*message);
+        }
+    };
+    std::optional<Message> span_message;
+    check_spans(m, span_message);
+    add(span_message);
+    add(check_supports(m));
+    if (m.section_form == "Tube") {
+        add(check_box(m, Box::Diameter, m.section_d));
+    } else {
+        add(check_box(m, Box::Width, m.section_b));
+        add(check_box(m, Box::Height, m.section_h));
+        for (int i = 1; i <= m.nnodes; ++i) {
+            add(check_box(m, Box::Kc90, m.bearing_kc90(i)));
+            add(check_box(m, Box::BearingLength, m.bearing_length(i)));
+        }
+    }
+    add(check_box(m, Box::Ksys, m.ksys));
+    if (m.vipping_off == 0 && !is_true(m.err_spans)) {
+        for (int i = 1; i <= m.nf; ++i) {
+            add(check_box(m, Box::LStag, m.l_stag(i), i));
+            add(check_box(m, Box::LefFactor, m.lef_factor(i)));
+        }
+    }
+    return messages;
+}
+
+} // namespace kvelder

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/model.h"
+#include "ui/messages.h"
+
+#include <optional>
+#include <vector>
+
+namespace kvelder {
+
+// The number boxes that a check guards, outside the load dialogs.
+enum class Box {
+    Width,         // txt_b1
+    Height,        // txt_h1
+    Diameter,      // txt_d
+    Kc90,          // Txt_kc90
+    BearingLength, // Txt_opp_L
+    Ksys,          // Txt_ksy
+    LStag,         // Txt_l_stag, per span
+    LefFactor,     // Txt_le_fak, per span
+    SetupFactor,   // the gamma_M and kcr boxes of the setup dialog
+};
+
+// The message of a box whose value fails its limits, or none when it passes.
+// `span` is the span of an l_stag box, whose length is the upper limit.
+std::optional<Message> check_box(const Model& m, Box box, float value, int span = 0);
+
+// Spans 1..nf in order: the first that is not longer than 0 sets err_spans and
+// gives its message; otherwise err_spans is cleared. The span, where one failed.
+std::optional<int> check_spans(Model& m, std::optional<Message>& message);
+
+// The restraint table for the end supports as they stand. Too few restraints
+// set err_supports and give the message; enough clear it.
+std::optional<Message> check_supports(Model& m);
+
+// Every check that typing the whole beam into the window would run: spans,
+// supports, the section boxes of its form, ksys, the bearing boxes of every
+// node, and the buckling boxes of every span while that check is on. The
+// messages of all failures, in that order; none when the beam passes.
+std::vector<Message> check_all_boxes(Model& m);
+
+} // namespace kvelder

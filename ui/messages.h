@@ -1,0 +1,32 @@
+#pragma once
+
+#include "files/data_files.h"
+
+#include <optional>
+#include <string>
+
+namespace kvelder {
+
+// One message box: its number (0 for the messages that have none), title and text.
+struct Message {
+    int code = 0;
+    std::string title;
+    std::string text;
+
+    friend bool operator==(const Message&, const Message&) = default;
+};
+
+// The numbered message of `code` in a language ("Eng" or "Nor"); none where that
+// language has no entry for the code.
+std::optional<Message> ShowMessageEng(int code);
+std::optional<Message> ShowMessageNor(int code);
+std::optional<Message> numbered_message(const std::string& language, int code);
+
+// Messages that carry no number.
+Message span_length_missing(const std::string& language);
+Message supports_unstable(const std::string& language);
+
+// What became of a data file that could not be used as it stands.
+Message data_file_message(const std::string& language, const DataFileNote& note);
+
+} // namespace kvelder

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kvelder {
+
+// A number in a display pattern of the program: "0", "0.0", "0.00", "0.000"
+// and the like, "#" for a whole number without a nought, and "0.00E+00" or
+// "0.000E+00" for a power of ten. Characters around the pattern (a blank
+// before or after) are kept. Halves round away from zero. `decimal_comma`
+// writes a comma for the point.
+std::string format_number(double value, std::string_view pattern, bool decimal_comma = false);
+
+} // namespace kvelder
