@@ -217,7 +217,9 @@ void StoreSetupRow(Model& m)
     r.kcr_lam = m.kcr_lam;
     r.kcr_kerto = m.kcr_kerto;
     r.kcr_k_bjelke = m.kcr_k_bjelke;
-    r.kcr_exposed = m.kcr_exposed;
+    if (m.annex_s == "Swe") {
+        r.kcr_exposed = m.kcr_exposed; // elsewhere the active field is 0 and the file keeps its own
+    }
     r.safety_class = m.safety_class;
     r.psi0_1_index = m.psi0_1_index;
     r.psi0_2_index = m.psi0_2_index;

@@ -1,0 +1,200 @@
+// kvelder-cli from the outside: what it prints and how it exits.
+
+#include "app/cli/result_json.h"
+#include "model/main_calc.h"
+#include "tests/support/beams.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <fstream>
+#include <sys/wait.h>
+
+namespace kvelder::test {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+struct CliRun {
+    int exit = -1;
+    std::string out;
+    std::string err;
+};
+
+// Runs the tool in the scratch folder, where it leaves its trace files.
+CliRun run(const std::string& args)
+{
+    const fs::path err_file = scratch_folder() / "cli_stderr.txt";
+    const std::string command = "cd '" + scratch_folder().string() + "' && '" KVELDER_CLI "' " + args +
+                                " 2>'" + err_file.string() + "'";
+    CliRun r;
+    FILE* pipe = ::popen(command.c_str(), "r");
+    if (pipe == nullptr) {
+        return r;
+    }
+    char buffer[4096];
+    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) {
+        r.out.append(buffer, n);
+    }
+    const int status = ::pclose(pipe);
+    r.exit = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    std::ifstream in(err_file);
+    r.err.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return r;
+}
+
+// A description written to the scratch folder; its path for the command line.
+std::string description(const std::string& name, const std::string& text)
+{
+    const fs::path path = scratch_folder() / name;
+    std::ofstream(path) << text;
+    return "'" + path.string() + "'";
+}
+
+TEST(CliCalc, TheExampleBeamGivesTheNumbersOfTheRecalculation)
+{
+    const CliRun r = run("calc");
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json result = json::parse(r.out);
+
+    auto m = example_beam();
+    RecordingScreen screen;
+    MainCalc(*m, screen, scratch_folder());
+    EXPECT_TRUE(result["messages"].empty());
+    EXPECT_EQ(result["material"]["name"], "GL30c");
+    EXPECT_EQ(result["section"]["b"], 140.0);
+    EXPECT_EQ(result["factors"]["gamma_M"].get<float>(), m->gamma_M);
+    EXPECT_EQ(result["checks"][0]["Uf_mom"].get<float>(), m->Uf_mom(1)); // read back to the same float
+    EXPECT_EQ(result["checks"][1]["Uf_tau"].get<float>(), m->Uf_tau(2));
+    EXPECT_TRUE(result["checks"][0]["k_crit"].is_null()); // the buckling check is off
+    EXPECT_EQ(result["bearing"][1]["Uf_c90"].get<float>(), m->Uf_c90(2));
+    EXPECT_EQ(result["supports"].size(), 3U);
+
+    const json& points = result["spans"][0]["points"];
+    ASSERT_EQ(points.size(), 51U);
+    EXPECT_EQ(points.front()["x"], 0.0);
+    EXPECT_EQ(points.back()["x"], 5.0);
+    for (std::size_t k = 1; k < points.size(); ++k) {
+        EXPECT_LT(points[k - 1]["x"].get<double>(), points[k]["x"].get<double>());
+    }
+}
+
+TEST(CliCalc, ADescriptionChangesWhatItNames)
+{
+    const CliRun r = run("calc " + description("swedish.json", R"({
+        "annex": "Swe", "safety_class": 3, "comb_rule": "610b", "loadcomb_option": 2,
+        "ffl_s": [4.0, 6.0, 3.5], "nsupLeft_s": "I",
+        "G": {"uni": [[1, 1.0], [2, 1.0], [3, 1.0]], "pt": [[2, 10.0, 2.5]]},
+        "Q1": {"trap": [[1, 1.0, 3.0, 0.5, 4.0]], "uni": [[3, 2.0]]},
+        "material": "C24", "prof_type_index": 0, "section_b": 98, "section_h": 223,
+        "vipping_off": false, "lef_factor": [0.9, 0.9, 0.5], "psi0_1": 0.6, "bearing_length": [90, 100, 110, 120]
+    })"));
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json result = json::parse(r.out);
+    EXPECT_EQ(result["npatterns"], 8); // three spans, patterned
+    EXPECT_EQ(result["factors"]["gamma_Q1_a"].get<float>(), 0.00001F);
+    EXPECT_EQ(result["factors"]["gamma_Q1_b"].get<float>(), 1.5F);
+    EXPECT_EQ(result["factors"]["psi0_1"].get<float>(), f32(0.6));
+    EXPECT_EQ(result["material"]["name"], "C24");
+    EXPECT_EQ(result["section"]["h"], 223.0);
+    EXPECT_EQ(result["spans"].size(), 3U);
+    EXPECT_FALSE(result["checks"][2]["k_crit"].is_null());
+    EXPECT_EQ(result["bearing"][0]["kind"], "I");
+    EXPECT_FALSE(result["bearing"][0].contains("Uf_c90"));
+    // The point load adds its two points to span 2.
+    EXPECT_EQ(result["spans"][1]["points"].size(), 53U);
+}
+
+TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
+{
+    CliRun r = run("calc " + description("no_span.json", R"({"ffl_s": [5.0, 0.0]})"));
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_NE(r.err.find("Length of span is missing"), std::string::npos) << r.err;
+    EXPECT_EQ(json::parse(r.out)["messages"][0]["title"], "Lenght of span");
+
+    r = run("calc " + description("bad_row.json", R"({"G": {"uni": [[1, 2.0], [3, 1.0]]}})"));
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_EQ(json::parse(r.out)["messages"][0]["code"], 116);
+
+    // A check without a message in Norwegian still fails, and says which row.
+    r = run("calc --text " +
+            description("silent.json", R"({"language": "Nor", "G": {"pt": [[4, 2.0, 1.0]]}})"));
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_NE(r.err.find("G point load, row 1"), std::string::npos) << r.err;
+
+    r = run("calc " + description("ksys.json", R"({"ksys": 1.3})"));
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_NE(r.err.find(" 1 <= ksys <= 1.2"), std::string::npos);
+}
+
+TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
+{
+    const struct {
+        const char* text;
+        const char* says;
+    } cases[] = {
+        {R"({"nf": 2, "ffl_s": [5.0, 5.0], "colour": "red"})", "\"colour\""},
+        {R"({"nf": "two", "ffl_s": [5.0, 5.0]})", "\"nf\""},
+        {R"({"nf": 6, "ffl_s": [1, 1, 1, 1, 1, 1]})", "\"nf\""},
+        {R"({"nf": 3})", "\"nf\""},
+        {R"({"ffl_s": [5.0, 5.0], "l_stag": [5.0]})", "\"l_stag\""},
+        {R"({"material_row": 500})", "\"material_row\""},
+        {R"({"material": "C99"})", "\"material\""},
+        {R"({"annex": "Xyz"})", "\"annex\""},
+        {R"({"psi0_1": 0.75})", "\"psi0_1\""},
+        {R"({"nsupLeft_s": "X"})", "\"nsupLeft_s\""},
+        {R"({"G": {"uni": [[1, 1], [1, 1], [1, 1], [1, 1], [1, 1], [2, 1]]}})", "\"G.uni\""},
+        {R"({"Q1": {"pt": [[1.5, 1, 1]]}})", "\"Q1.pt[0][0]\""},
+        {R"({"G": {"trap": [[1, 1, 1]]}})", "\"G.trap[0]\""},
+        {R"({"nf": 2,)", "not valid JSON"},
+        {R"([1, 2])", "JSON object"},
+    };
+    for (const auto& c : cases) {
+        const CliRun r = run("calc " + description("bad.json", c.text));
+        EXPECT_EQ(r.exit, 2) << c.text;
+        EXPECT_NE(r.err.find(c.says), std::string::npos) << c.text << " -> " << r.err;
+        EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+    }
+}
+
+TEST(CliCalc, UsageAndFileErrorsExitTwo)
+{
+    for (const char* args : {"", "draw", "calc --colour", "calc a.json b.json", "calc /no/such/beam.json",
+                             "calc beam.kvel", "bench -n 0", "calc --data-dir /no/such/folder"}) {
+        const CliRun r = run(args);
+        EXPECT_EQ(r.exit, 2) << args;
+        EXPECT_FALSE(r.err.empty()) << args;
+    }
+}
+
+TEST(CliCalc, MissingDataFilesAreReportedAndTheShippedOnesUsed)
+{
+    const fs::path empty = scratch_folder() / "empty_data";
+    fs::create_directories(empty);
+    const CliRun r = run("calc --data-dir '" + empty.string() + "'");
+    EXPECT_EQ(r.exit, 0);
+    for (const char* file : {"EC5Material.csv", "EC5Profile.csv", "Kveldersetup.csv"}) {
+        EXPECT_NE(r.err.find((empty / file).string()), std::string::npos) << file;
+    }
+    EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30c");
+}
+
+TEST(CliOutput, TextAndBench)
+{
+    CliRun r = run("calc --text");
+    EXPECT_EQ(r.exit, 0);
+    EXPECT_NE(r.out.find("Material GL30c"), std::string::npos);
+    EXPECT_NE(r.out.find("1.97*"), std::string::npos) << r.out; // the middle support's bearing overrun
+
+    r = run("bench -n 5");
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json line = json::parse(r.out);
+    EXPECT_EQ(line["runs"], 5);
+    EXPECT_GT(line["median_us"].get<double>(), 0);
+    EXPECT_LE(line["min_us"].get<double>(), line["median_us"].get<double>());
+}
+
+} // namespace
+} // namespace kvelder::test

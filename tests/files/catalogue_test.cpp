@@ -1,0 +1,213 @@
+// The catalogues and the setup file: what the readers make of a file, what
+// they do with a missing one, and the data we ship.
+
+#include "files/catalogue.h"
+#include "files/data_files.h"
+#include "files/setup_file.h"
+#include "files/shipped_data.h"
+#include "files/text_lines.h"
+#include "tests/support/beams.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+namespace kvelder::test {
+namespace {
+
+const std::string kSevenHeadLines = "h1\nh2\nh3\nh4\nh5\nh6\nName;Code;S;fm\n";
+
+TEST(Catalogue, SkipsLinesThatAreNoDataRowsWithoutLeavingAGap)
+{
+    const std::string text = kSevenHeadLines + "C24;EN 338;S;24;14.5;2.5;4;11000;7400;350;420;0\r\n"
+                                               "Glulam;;H;\n"
+                                               "a comment\n"
+                                               "GL30c;EN 14080;S;30;19.5;2.5;3.5;13000;10800;390;430;0\n";
+    ReadNotes notes;
+    const MaterialTable t = ReadMaterialCatalogue(text, 0, notes);
+    ASSERT_EQ(t.last_row, 1);
+    EXPECT_EQ(t.rows[1].name, "GL30c");
+    EXPECT_EQ(t.rows[1].E0mean, 13000.0F);
+    EXPECT_EQ(t.rows[1].E005, 10800.0F);
+    EXPECT_EQ(t.rows[1].spare, 0.0F); // column 9 is never read
+    EXPECT_EQ(t.rows[1].density, 430.0F);
+    EXPECT_EQ(notes.rows_dropped, 0);
+}
+
+TEST(Catalogue, ACommaRowReadsAsAPointRowAndShortRowsKeepZeros)
+{
+    ReadNotes notes;
+    const MaterialTable point = ReadMaterialCatalogue(kSevenHeadLines + "X;;S;24;14.5;2.5;3.5\n", 0, notes);
+    const MaterialTable comma = ReadMaterialCatalogue(kSevenHeadLines + "X;;S;24;14,5;2,5;3,5\n", 1, notes);
+    EXPECT_EQ(point, comma);
+    EXPECT_EQ(point.rows[0].fvk, 3.5F);
+    EXPECT_EQ(point.rows[0].E0mean, 0.0F);
+}
+
+TEST(Catalogue, RowsBeyondTheTableAreDroppedAndCounted)
+{
+    std::string text = kSevenHeadLines;
+    for (int r = 0; r < ProfileTable::kRows + 3; ++r) {
+        text += "P" + std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
+    }
+    ReadNotes notes;
+    const ProfileTable t = ReadProfileCatalogue(text, 0, notes);
+    EXPECT_EQ(t.last_row, ProfileTable::kRows - 1);
+    EXPECT_EQ(notes.rows_dropped, 3);
+    EXPECT_EQ(t.rows[400].name, "P400");
+}
+
+TEST(Catalogue, FamiliesKeepTheOrderOfTheFileAndDropUnknownCodes)
+{
+    ReadNotes notes;
+    const ProfileTable t = ReadProfileCatalogue(
+        kSevenHeadLines + "a;L;S;1;1\nb;Ke;S;2;2\nc;X;S;3;3\nd;L;S;4;4\ne;K;S;5;5\n", 0, notes);
+    const ProfileFamilies f = SplitProfileFamilies(t);
+    ASSERT_EQ(f.of(1).size(), 2U);
+    EXPECT_EQ(f.of(1)[1].name, "d");
+    EXPECT_EQ(f.of(2).size(), 1U);
+    EXPECT_EQ(f.of(3).size(), 1U);
+    EXPECT_TRUE(f.of(0).empty());
+}
+
+TEST(DataFiles, AMissingOrEmptyFileGivesWayToTheShippedCopy)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_missing";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Profile.csv") << "only\nhead\nlines\n";
+    Model m;
+    const std::vector<DataFileNote> notes = ReadDataFiles(m, folder);
+    ASSERT_EQ(notes.size(), 3U);
+    EXPECT_EQ(notes[0].file, DataFile::Setup);
+    EXPECT_EQ(notes[0].kind, DataFileNote::Kind::Missing);
+    EXPECT_EQ(notes[0].folder, folder);
+    EXPECT_EQ(notes[2].kind, DataFileNote::Kind::NoRows);
+    ReadNotes ignored;
+    EXPECT_EQ(m.material_table, ReadMaterialCatalogue(shipped_material_catalogue(), 0, ignored));
+    EXPECT_EQ(m.setup.setup_table[0].annex, "Nor");
+    EXPECT_EQ(m.profile_families.of(1).size(), SplitProfileFamilies(m.profile_table).of(1).size());
+}
+
+TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_fill";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "Kveldersetup.csv") << "mine";
+    fill_data_dir(folder);
+    EXPECT_EQ(read_text_file(folder / "Kveldersetup.csv"), "mine");
+    EXPECT_EQ(read_text_file(folder / "EC5Material.csv"), std::string(shipped_material_catalogue()));
+}
+
+TEST(ShippedData, HoldsTheClassesOfTheStandardsAndTheExampleBeamsRows)
+{
+    Model m;
+    ASSERT_TRUE(ReadDataFiles(m, source_data_dir()).empty());
+    std::set<std::string> names;
+    for (int r = 0; r <= m.material_table.last_row; ++r) {
+        const MaterialRow& row = m.material_table.rows[static_cast<std::size_t>(r)];
+        names.insert(row.name);
+        EXPECT_GT(row.fmk, 0) << row.name;
+        EXPECT_GT(row.fvk, 0) << row.name; // the Swedish kcr rule divides by it
+        EXPECT_GT(row.E005, 0) << row.name;
+        EXPECT_LT(row.E005, row.E0mean) << row.name;
+        EXPECT_GT(row.density, 300) << row.name;
+    }
+    for (const char* name : {"C14", "C24", "C50", "GL20h", "GL22h", "GL32h", "GL20c", "GL32c", "D18", "D80",
+                             "LVL 48 P", "LVL 36 C"}) {
+        EXPECT_EQ(names.count(name), 1U) << name;
+    }
+    EXPECT_EQ(m.material_table.rows[24].name, "GL30c");
+    EXPECT_GT(m.material_table.rows[40].s_exponent, 0);
+
+    ASSERT_GE(m.profile_families.of(1).size(), 53U);
+    EXPECT_EQ(m.profile_families.of(1)[52].b, 140.0F);
+    EXPECT_EQ(m.profile_families.of(1)[52].h, 405.0F);
+    for (int family = 0; family < 4; ++family) {
+        EXPECT_FALSE(m.profile_families.of(family).empty()) << family;
+    }
+
+    std::vector<std::string> annexes;
+    for (int r = 0; r <= m.setup.setup_last_row; ++r) {
+        annexes.push_back(m.setup.setup_table[static_cast<std::size_t>(r)].annex);
+    }
+    EXPECT_EQ(annexes, (std::vector<std::string>{"Nor", "Swe", "Euc"}));
+    EXPECT_EQ(m.setup.setup_table[0].gamma_lam, 1.15F);
+    EXPECT_EQ(m.setup.setup_table[2].gamma_timb, 1.3F);
+}
+
+TEST(SetupFile, ReadsEitherSeparatorAndWritesItsHeadLinesBack)
+{
+    const std::string text = "free 1\nfree 2\nLanguage;Nor\nRow;1\nfree 5\nfree 6\n"
+                             "Nor;NA;1,25;1,15;1,2;1,2;0,67;0,67;1;1;True;1;5;4;3;2;\n"
+                             "Swe;;1.3;1.25;1.2;1.2;0.67;0.67;1;1;False;3;0;1;0;10;\n";
+    ReadNotes notes;
+    const FileDatabase db = ReadSetupFile(text, 0, notes);
+    EXPECT_EQ(db.setup_language, "Nor");
+    EXPECT_EQ(db.setup_row, 1);
+    EXPECT_EQ(db.setup_last_row, 1);
+    EXPECT_EQ(db.setup_table[0].gamma_timb, 1.25F);
+    EXPECT_EQ(db.setup_table[0].kcr_exposed, kTrue);
+    EXPECT_EQ(db.setup_table[1].psi2_2_index, 10);
+
+    for (std::int16_t machine : {0, 1}) {
+        ReadNotes again;
+        EXPECT_EQ(ReadSetupFile(SetupFileText(db, machine), machine, again), db);
+    }
+    const std::string written = SetupFileText(db, 1);
+    EXPECT_EQ(written.substr(0, written.find("Nor;NA")),
+              "free 1\r\nfree 2\r\nLanguage;Nor\r\nRow;1\r\nfree 5\r\nfree 6\r\n");
+    EXPECT_NE(written.find("1,25;"), std::string::npos);
+}
+
+TEST(SetupFile, AFailedWriteLeavesTheOldFile)
+{
+    const std::filesystem::path path = scratch_folder() / "setup_write.csv";
+    std::ofstream(path) << "old";
+    FileDatabase db;
+    EXPECT_TRUE(WriteSetupFile(db, 0, path));
+    EXPECT_NE(read_text_file(path), "old");
+    std::ofstream(path, std::ios::trunc) << "old";
+    EXPECT_FALSE(WriteSetupFile(db, 0, scratch_folder() / "no such folder" / "setup.csv"));
+    EXPECT_EQ(read_text_file(path), "old");
+}
+
+TEST(SetupRow, BecomesTheActiveFactorsAndGoesBack)
+{
+    Model m;
+    ReadNotes notes;
+    m.setup = ReadSetupFile("1\n2\nL;Eng\nR;0\n5\n6\n"
+                            "Nor;NA;1.25;1.15;1.2;1.2;0.67;0.67;1;1;True;1;5;4;3;2;\n"
+                            "Swe;;1.3;1.25;1.2;1.2;0.5;0.6;1;1;True;3;0;1;0;10;\n",
+                            0, notes);
+    ApplySetupRow(m);
+    EXPECT_EQ(m.title_suffix, "Kvelder + NA: ");
+    EXPECT_EQ(m.kcr_exposed, kFalse); // taken only in Sweden
+    EXPECT_EQ(m.psi0_1, f32(0.7));
+    EXPECT_EQ(m.psi0_2, f32(0.6));
+    EXPECT_EQ(m.psi2_1, f32(0.3));
+    EXPECT_EQ(m.psi2_2, f32(0.2));
+    StoreSetupRow(m);
+    EXPECT_EQ(m.setup.setup_table[0].kcr_exposed, kTrue);
+
+    m.setup.setup_row = 1;
+    ApplySetupRow(m);
+    EXPECT_EQ(m.title_suffix, "Kvelder: ");
+    EXPECT_EQ(m.kcr_exposed, kTrue);
+    EXPECT_EQ(m.psi0_1, f32(0.2));
+    EXPECT_EQ(m.psi2_2, 1.0F);
+
+    m.gamma_lam = 1.4F;
+    m.safety_class = 2;
+    StoreSetupRow(m);
+    EXPECT_EQ(m.setup.setup_table[1].gamma_lam, 1.4F);
+    EXPECT_EQ(m.setup.setup_table[1].safety_class, 2);
+
+    m.setup.setup_row = 7; // beyond the rows read
+    ApplySetupRow(m);
+    EXPECT_EQ(m.setup.setup_row, 0);
+    EXPECT_EQ(m.annex, "Nor");
+}
+
+} // namespace
+} // namespace kvelder::test

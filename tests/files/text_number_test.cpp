@@ -1,0 +1,70 @@
+// Typed and read numbers on machines that write a decimal point or a comma.
+
+#include "files/text_number.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace kvelder {
+namespace {
+
+constexpr std::int16_t kPointMachine = 0;
+constexpr std::int16_t kCommaMachine = 1;
+
+std::optional<float> read(std::string text, std::int16_t machine)
+{
+    return TextToNumber(text, machine);
+}
+
+TEST(TextToNumber, ReadsPointAndCommaAlikeOnEitherMachine)
+{
+    for (std::int16_t machine : {kPointMachine, kCommaMachine}) {
+        EXPECT_EQ(read("1,5", machine), 1.5F);
+        EXPECT_EQ(read("1.5", machine), 1.5F);
+        EXPECT_EQ(read("  3.5", machine), 3.5F);
+        EXPECT_EQ(read("3.5 ", machine), 3.5F);
+        EXPECT_EQ(read("-0.25", machine), -0.25F);
+        EXPECT_EQ(read("", machine), 0.0F);
+        EXPECT_EQ(read("1e999", machine), std::nullopt); // beyond any single
+    }
+}
+
+TEST(TextToNumber, RewritesTheTextWithTheMachinesSeparator)
+{
+    std::string text = "  2.75";
+    TextToNumber(text, kCommaMachine);
+    EXPECT_EQ(text, "2,75");
+    text = "2,75";
+    TextToNumber(text, kPointMachine);
+    EXPECT_EQ(text, "2.75");
+}
+
+TEST(TextToNumber, APointMachineReadsTheLeadingNumberAndACommaMachineRefusesRubbish)
+{
+    EXPECT_EQ(read("12abc", kPointMachine), 12.0F);
+    EXPECT_EQ(read("abc", kPointMachine), 0.0F);
+    EXPECT_EQ(read("inf", kPointMachine), 0.0F);
+    EXPECT_EQ(read("12abc", kCommaMachine), std::nullopt);
+    EXPECT_EQ(read("abc", kCommaMachine), std::nullopt);
+    EXPECT_EQ(read("   ", kCommaMachine), std::nullopt);
+}
+
+TEST(TextToInt16, RoundsAndRefusesWhatA16BitNumberCannotHold)
+{
+    std::string text = "2.5";
+    EXPECT_EQ(TextToInt16(text, kPointMachine), 2); // ties to even
+    text = "3,5";
+    EXPECT_EQ(TextToInt16(text, kPointMachine), 4);
+    text = "40000";
+    EXPECT_EQ(TextToInt16(text, kPointMachine), std::nullopt);
+}
+
+TEST(DecimalProbe, TheCLocaleWritesAPoint)
+{
+    ::setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(DecimalProbe(), 0);
+}
+
+} // namespace
+} // namespace kvelder
