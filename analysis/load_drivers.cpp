@@ -81,7 +81,9 @@ void each_row(const Model& m, int count, const Table<std::int16_t, Rows>& spans,
     }
 }
 
-void point_and_moment_forces(Model& m, const LoadGroup& g, int span)
+// `set_node(index, value)` puts a moment that stands on a node into F_load.
+template <typename SetNode>
+void point_and_moment_forces(Model& m, const LoadGroup& g, int span, SetNode&& set_node)
 {
     each_row(m, g.pt_n, g.pt_span, span, [&](int k, int i, float L) {
         add_forces(m, i, [&](float x) { return point_load_forces(L, x, g.pt_P(k), g.pt_a(k)); });
@@ -94,9 +96,9 @@ void point_and_moment_forces(Model& m, const LoadGroup& g, int span)
         } else if (a > L - 0.001) {
             // On the node at the span's end. Set, not added: a later row on the
             // same node replaces an earlier one.
-            m.F_load(2 * i + 2) = -M;
+            set_node(2 * i + 2, -M);
         } else {
-            m.F_load(2 * i) = -M;
+            set_node(2 * i, -M);
         }
     });
 }
@@ -141,11 +143,26 @@ void uniform_deflections(Model& m, const UniformLoad& u)
     add_deflections(m, u.span, [&](float x) { return uniform_load_deflection(L, x, u.q); });
 }
 
+template <typename SetNode>
+void variable_forces_with(Model& m, const LoadGroup& group, int span, SetNode&& set_node)
+{
+    point_and_moment_forces(m, group, span, set_node);
+    each_row(m, group.uni_n, group.uni_span, span, [&](int k, int i, float) {
+        uniform_forces(m, {i, group.uni_q(k)});
+    });
+    line_forces(m, group, span);
+}
+
+void set_into(Model& m, int index, double value)
+{
+    m.F_load(index) = value;
+}
+
 } // namespace
 
 void G_forces(Model& m)
 {
-    point_and_moment_forces(m, m.G, kAllSpans);
+    point_and_moment_forces(m, m.G, kAllSpans, [&m](int index, double value) { set_into(m, index, value); });
     for (const UniformLoad& u : G_uniform_loads(m)) {
         uniform_forces(m, u);
     }
@@ -163,11 +180,14 @@ void G_deflections(Model& m)
 
 void variable_forces(Model& m, const LoadGroup& group, int span)
 {
-    point_and_moment_forces(m, group, span);
-    each_row(m, group.uni_n, group.uni_span, span, [&](int k, int i, float) {
-        uniform_forces(m, {i, group.uni_q(k)});
+    variable_forces_with(m, group, span, [&m](int index, double value) { set_into(m, index, value); });
+}
+
+void variable_forces(Model& m, const LoadGroup& group, int span, std::vector<NodeLoad>& node_loads)
+{
+    variable_forces_with(m, group, span, [&node_loads](int index, double value) {
+        node_loads.push_back({index, value});
     });
-    line_forces(m, group, span);
 }
 
 void variable_deflections(Model& m, const LoadGroup& group, int span)

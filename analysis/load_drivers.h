@@ -2,7 +2,15 @@
 
 #include "model/model.h"
 
+#include <vector>
+
 namespace kvelder {
+
+// A load that a driver sets straight into F_load: a concentrated moment on a node.
+struct NodeLoad {
+    int index;
+    double value;
+};
 
 // The drivers walk a load group and add every load, at every calculation point
 // of its span, to SF_fix and W_fix (point loads, moments, uniform loads,
@@ -15,6 +23,8 @@ void G_deflections(Model& m);
 
 // The rows of a variable group that stand on one span.
 void variable_forces(Model& m, const LoadGroup& group, int span);
+// The same, with the node loads kept in the order they are set instead of set.
+void variable_forces(Model& m, const LoadGroup& group, int span, std::vector<NodeLoad>& node_loads);
 void variable_deflections(Model& m, const LoadGroup& group, int span);
 
 inline void Q1_forces(Model& m, int span)

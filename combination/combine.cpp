@@ -29,17 +29,17 @@ float deflection_factor(const Model& m, LoadCase c)
     return 0;
 }
 
-void combine_span(Model& m, LoadCase c, int i)
+void combine_span(Model& m, const CaseView& k, LoadCase c, int i)
 {
     const double g = force_factor(m, c);
     const double creep = deflection_factor(m, c);
     const bool fresh = c == LoadCase::Egen;
 
     for (int j = 1; j <= m.nxtot_s(i); ++j) {
-        const double w = m.W_tot(i, j);
-        const double V = g * m.SF_tot(i, 2 * j - 1);
+        const double w = k.W_tot(i, j);
+        const double V = g * k.SF_tot(i, 2 * j - 1);
         // The analysis has sagging positive; results have hogging positive.
-        const double M = -g * m.SF_tot(i, 2 * j);
+        const double M = -g * k.SF_tot(i, 2 * j);
         if (fresh) {
             m.C_Winst(i, j) = f32(w);
             m.C_W(i, j) = f32(creep * w);
@@ -54,12 +54,12 @@ void combine_span(Model& m, LoadCase c, int i)
     }
 }
 
-void combine_reactions(Model& m, LoadCase c)
+void combine_reactions(Model& m, const CaseView& k, LoadCase c)
 {
     const double g = force_factor(m, c);
-    for (int k = 1; k <= m.nsup; ++k) {
-        m.C_R(k) = f32(m.C_R(k) + g * m.react_V(k));
-        m.C_MR(k) = f32(m.C_MR(k) + g * m.react_M(k));
+    for (int n = 1; n <= m.nsup; ++n) {
+        m.C_R(n) = f32(m.C_R(n) + g * k.react_V(n));
+        m.C_MR(n) = f32(m.C_MR(n) + g * k.react_M(n));
     }
 }
 

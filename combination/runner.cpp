@@ -7,6 +7,9 @@
 #include "combination/envelope.h"
 #include "combination/patterns.h"
 
+#include <memory>
+#include <vector>
+
 namespace kvelder {
 namespace {
 
@@ -21,16 +24,92 @@ void solve_current_case(Model& m)
 {
     nodal_load_vector(m);
     solve_load_case(m);
-}
-
-// Recovers the solved case and folds it into the combination, without the envelopes.
-void combine_whole(Model& m, LoadCase c)
-{
     for (int i = 1; i <= m.nf; ++i) {
         recover_span(m, i);
-        combine_span(m, c, i);
     }
-    combine_reactions(m, c);
+}
+
+// Folds the solved case into the combination, without the envelopes.
+void combine_whole(Model& m, LoadCase c)
+{
+    const CaseView k = current_case(m);
+    for (int i = 1; i <= m.nf; ++i) {
+        combine_span(m, k, c, i);
+    }
+    combine_reactions(m, k, c);
+}
+
+// Folds a solved case into the combination of pattern p and the envelopes, and
+// traces the combination.
+void fold_case(Model& m, const CaseView& k, LoadCase c, int p, ScratchFiles& trace)
+{
+    for (int i = 1; i <= m.nf; ++i) {
+        combine_span(m, k, c, i);
+        deflection_envelope(m, i);
+        force_envelope(m, i);
+    }
+    combine_reactions(m, k, c);
+    reaction_envelope(m);
+
+    if (p == 1) {
+        trace.write_geometry(m);
+    }
+    trace.write_results(m, p);
+}
+
+// A solved case kept for the patterns that repeat it.
+struct SolvedCase {
+    explicit SolvedCase(const Model& m)
+        : SF_tot(m.SF_tot), W_tot(m.W_tot), react_V(m.react_V), react_M(m.react_M)
+    {
+    }
+    CaseView view() const { return {SF_tot, W_tot, react_V, react_M}; }
+
+    Table2<float, kMaxSpans, kForceRows> SF_tot;
+    Table2<double, kMaxSpans, kForceRows> W_tot;
+    Table<float, kMaxNodes> react_V;
+    Table<float, kMaxNodes> react_M;
+};
+
+// What Q1 on one span puts into a load case: its rows of the held-member
+// tables, which no other span touches, and the moments it sets on nodes.
+struct SpanLoads {
+    Table<float, kForceRows> SF_fix;
+    Table<double, kForceRows> W_fix;
+    std::vector<NodeLoad> node_loads;
+};
+
+std::vector<SpanLoads> Q1_by_span(Model& m)
+{
+    std::vector<SpanLoads> spans(static_cast<std::size_t>(m.nf));
+    clear_case(m);
+    for (int s = 1; s <= m.nf; ++s) {
+        SpanLoads& q = spans[static_cast<std::size_t>(s - 1)];
+        variable_forces(m, m.Q1, s, q.node_loads);
+        Q1_deflections(m, s);
+        for (int r = 1; r <= kForceRows; ++r) {
+            q.SF_fix(r) = m.SF_fix(s, r);
+            q.W_fix(r) = m.W_fix(s, r);
+        }
+    }
+    return spans;
+}
+
+// Q1 on the spans of a pattern, in the pattern's order, as the drivers would
+// build it into freshly cleared case tables.
+void put_Q1(Model& m, const std::vector<SpanLoads>& by_span, std::span<const int> spans)
+{
+    clear_case(m);
+    for (const int s : spans) {
+        const SpanLoads& q = by_span[static_cast<std::size_t>(s - 1)];
+        for (int r = 1; r <= kForceRows; ++r) {
+            m.SF_fix(s, r) = q.SF_fix(r);
+            m.W_fix(s, r) = q.W_fix(r);
+        }
+        for (const NodeLoad& n : q.node_loads) {
+            m.F_load(n.index) = n.value;
+        }
+    }
 }
 
 void add_variable_group(Model& m, void (*forces)(Model&, int), void (*deflections)(Model&, int))
@@ -76,43 +155,6 @@ void clear_envelopes(Model& m)
     }
 }
 
-void run_case(Model& m, LoadCase c, int p, ScratchFiles& trace)
-{
-    solve_current_case(m);
-    for (int i = 1; i <= m.nf; ++i) {
-        recover_span(m, i);
-        combine_span(m, c, i);
-        deflection_envelope(m, i);
-        force_envelope(m, i);
-    }
-    combine_reactions(m, c);
-    reaction_envelope(m);
-
-    if (p == 1) {
-        trace.write_geometry(m);
-    }
-    trace.write_results(m, p);
-}
-
-void apply_G_and_Q2(Model& m, int p, ScratchFiles& trace)
-{
-    G_forces(m);
-    G_deflections(m);
-    run_case(m, LoadCase::Egen, p, trace);
-    clear_case(m);
-    add_variable_group(m, Q2_forces, Q2_deflections);
-    run_case(m, LoadCase::Nytt_2, p, trace);
-}
-
-void apply_Q1(Model& m, int p, std::span<const int> spans, ScratchFiles& trace)
-{
-    for (const int span : spans) {
-        Q1_forces(m, span);
-        Q1_deflections(m, span);
-    }
-    run_case(m, LoadCase::Nytt, p, trace);
-}
-
 void run_total(Model& m, ScratchFiles& trace)
 {
     G_forces(m);
@@ -150,13 +192,29 @@ void run_patterns(Model& m, ScratchFiles& trace)
         return;
     }
     m.npatterns = static_cast<std::int16_t>(pattern_count(m.nf));
+
+    // G and Q2 are the same in every pattern, and Q1 on a span is the same in
+    // every pattern that loads the span: each is worked out once, in the tables
+    // a pattern would build it in, and folded in anew by each pattern.
+    clear_case(m);
+    G_forces(m);
+    G_deflections(m);
+    solve_current_case(m);
+    const auto G = std::make_unique<SolvedCase>(m);
+    clear_case(m);
+    add_variable_group(m, Q2_forces, Q2_deflections);
+    solve_current_case(m);
+    const auto Q2 = std::make_unique<SolvedCase>(m);
+    const std::vector<SpanLoads> Q1 = Q1_by_span(m);
+
     for (int p = 1; p <= m.npatterns; ++p) {
-        clear_case(m);
         clear_combination(m);
-        apply_G_and_Q2(m, p, trace);
+        fold_case(m, G->view(), LoadCase::Egen, p, trace);
+        fold_case(m, Q2->view(), LoadCase::Nytt_2, p, trace);
         if (p > 1) {
-            clear_case(m);
-            apply_Q1(m, p, Q1_pattern(m.nf, p), trace);
+            put_Q1(m, Q1, Q1_pattern(m.nf, p));
+            solve_current_case(m);
+            fold_case(m, current_case(m), LoadCase::Nytt, p, trace);
         }
     }
 }

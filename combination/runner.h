@@ -4,8 +4,6 @@
 #include "combination/scratch_files.h"
 #include "model/model.h"
 
-#include <span>
-
 namespace kvelder {
 
 // The runs of load cases. Every case is built into F_load and SF_fix / W_fix by
@@ -18,14 +16,6 @@ void clear_case(Model& m);
 void clear_combination(Model& m);
 // Clears every envelope.
 void clear_envelopes(Model& m);
-
-// One solved case under pattern p: recovery, combination, envelopes, trace.
-void run_case(Model& m, LoadCase c, int p, ScratchFiles& trace);
-
-// G and then Q2 under pattern p.
-void apply_G_and_Q2(Model& m, int p, ScratchFiles& trace);
-// Q1 on the given spans, in that order, as one case.
-void apply_Q1(Model& m, int p, std::span<const int> spans, ScratchFiles& trace);
 
 // Option 1: G, Q1 and Q2 on all spans, one combination copied into the envelopes.
 void run_total(Model& m, ScratchFiles& trace);

@@ -55,7 +55,8 @@ std::string result_text(const Model& m)
 
     out += "Spans (m):";
     for (int i = 1; i <= m.nf; ++i) {
-        out += " " + format_number(m.ffl_s(i), "0.000");
+        out += ' ';
+        out += format_number(m.ffl_s(i), "0.000");
     }
     out += "   supports " + std::string(1, m.nsupLeft_s) + " ... " + std::string(1, m.nsupRight_s);
     out += "   " + std::string(m.comb_rule == "610a" ? "6.10a" : "6.10b");

@@ -49,7 +49,8 @@ TEST(Catalogue, RowsBeyondTheTableAreDroppedAndCounted)
 {
     std::string text = kSevenHeadLines;
     for (int r = 0; r < ProfileTable::kRows + 3; ++r) {
-        text += "P" + std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
+        text += 'P';
+        text += std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
     }
     ReadNotes notes;
     const ProfileTable t = ReadProfileCatalogue(text, 0, notes);
