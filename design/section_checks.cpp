@@ -36,6 +36,12 @@ Governing largest(Model& m, int i, Force force, float cut, double factor, double
     return g;
 }
 
+// The worse of the two signs; on a tie the positive one stands.
+const Governing& worse(const Governing& pos, const Governing& neg)
+{
+    return neg.uf > pos.uf ? neg : pos;
+}
+
 } // namespace
 
 void Control_sections(Model& m)
@@ -57,10 +63,8 @@ void Control_sections(Model& m)
         m.x_pos(i) = pos.x;
         m.Uf_neg(i) = neg.uf, m.sigma_neg(i) = neg.stress, m.M_neg(i) = std::abs(neg.force),
         m.x_neg(i) = neg.x;
-        const bool neg_governs = m.Uf_neg(i) > m.Uf_pos(i);
-        m.Uf_mom(i) = neg_governs ? m.Uf_neg(i) : m.Uf_pos(i);
-        m.M_gov(i) = neg_governs ? m.M_neg(i) : m.M_pos(i);
-        m.x_mom(i) = neg_governs ? m.x_neg(i) : m.x_pos(i);
+        const Governing& gov = worse(pos, neg);
+        m.Uf_mom(i) = gov.uf, m.M_gov(i) = std::abs(gov.force), m.x_mom(i) = gov.x;
     }
     for (int i = 1; i <= m.nf; ++i) {
         const Governing pos = largest(
@@ -71,11 +75,8 @@ void Control_sections(Model& m)
             m.Uf_tau_st);
         m.Uf_tau_pos(i) = pos.uf, m.tau_pos(i) = pos.stress, m.V_pos(i) = pos.force, m.xt_pos(i) = pos.x;
         m.Uf_tau_neg(i) = neg.uf, m.tau_neg(i) = neg.stress, m.V_neg(i) = neg.force, m.xt_neg(i) = neg.x;
-        const bool neg_governs = m.Uf_tau_neg(i) > m.Uf_tau_pos(i);
-        m.Uf_tau(i) = neg_governs ? m.Uf_tau_neg(i) : m.Uf_tau_pos(i);
-        m.tau_gov(i) = neg_governs ? m.tau_neg(i) : m.tau_pos(i);
-        m.V_gov(i) = neg_governs ? m.V_neg(i) : m.V_pos(i);
-        m.xt_gov(i) = neg_governs ? m.xt_neg(i) : m.xt_pos(i);
+        const Governing& gov = worse(pos, neg);
+        m.Uf_tau(i) = gov.uf, m.tau_gov(i) = gov.stress, m.V_gov(i) = gov.force, m.xt_gov(i) = gov.x;
     }
     Check_lateral_buckling(m);
 }

@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Installs what the build needs and builds the release configuration. The
-# calculation core and its tests are all there is so far; the headless command and
-# the window, which show the example beam, are built here once they exist.
+# Installs what the build needs, builds the release configuration and runs the
+# example beam through the headless command, which prints its results as a table.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/install-deps.sh
 cmake --preset release
 cmake --build --preset release
-echo "Built the calculation core in build/release."
+# The run leaves its trace files in the working folder: keep them out of the sources.
+mkdir -p build/run
+cd build/run
+../release/app/cli/kvelder-cli calc --text

@@ -80,116 +80,128 @@ int stored_rows(const LoadGroup& g, LoadTable table)
     return std::clamp<int>(g.mom_n, 0, LoadGroup::kMomentRows);
 }
 
-// Whether row k of a table fails the check of `code`. Spans are known to lie on
-// the beam when a code reads a span length: the span check comes first.
-bool fails(const Model& m, const LoadGroup& g, LoadTable table, int k, int code, bool gap_before)
+// Whether an earlier row e of the table has `same(e)`.
+template <typename Same> bool any_earlier(int k, Same same)
 {
-    const auto length = [&m](int span) { return m.ffl_s(span); };
-    switch (table) {
-    case LoadTable::Uniform: {
-        const int s = g.uni_span(k);
-        switch (code) {
-        case 116:
-            return s > m.nf;
-        case 114:
-            for (int e = 1; e < k; ++e) {
-                if (g.uni_span(e) == s)
-                    return true;
-            }
-            return false;
-        case 112:
-            return gap_before;
-        case 120:
-            return g.uni_q(k) == 0;
+    for (int e = 1; e < k; ++e) {
+        if (same(e)) {
+            return true;
         }
-        break;
-    }
-    case LoadTable::Trapezoid: {
-        const int s = g.trap_span(k);
-        const float a = g.trap_a(k), b = g.trap_b(k), q1 = g.trap_q1(k), q2 = g.trap_q2(k);
-        switch (code) {
-        case 130:
-        case 137:
-            return s > m.nf;
-        case 144:
-            return b == 0;
-        case 146:
-            return b > length(s);
-        case 138:
-            return a > length(s);
-        case 140:
-            return a > b;
-        case 142:
-            return a == b;
-        case 148:
-            for (int e = 1; e < k; ++e) {
-                if (g.trap_span(e) == s && a < g.trap_b(e) && g.trap_a(e) < b)
-                    return true;
-            }
-            return false;
-        case 150:
-            return q1 == 0 && q2 == 0;
-        case 152:
-            return (q1 < 0 && q2 > 0) || (q1 > 0 && q2 < 0);
-        }
-        break;
-    }
-    case LoadTable::Point: {
-        const int s = g.pt_span(k);
-        const float c = g.pt_a(k);
-        switch (code) {
-        case 163:
-            return s > m.nf;
-        case 172:
-            return g.pt_P(k) == 0;
-        case 168:
-            return c > length(s);
-        case 170:
-            return c == 0 || c == length(s);
-        case 174:
-            for (int e = 1; e < k; ++e) {
-                if (g.pt_span(e) == s && g.pt_a(e) == c)
-                    return true;
-            }
-            return false;
-        }
-        break;
-    }
-    case LoadTable::Moment: {
-        const int s = g.mom_span(k);
-        const float d = g.mom_a(k);
-        switch (code) {
-        case 184:
-            return s > m.nf;
-        case 190:
-            return g.mom_M(k) == 0;
-        case 188:
-            return d > length(s);
-        case 196:
-            return (s == 1 && d == 0 && m.nsupLeft_s == kBuiltIn) ||
-                   (s == m.nf && d == length(s) && m.nsupRight_s == kBuiltIn);
-        case 192:
-            for (int e = 1; e < k; ++e) {
-                if (g.mom_span(e) == s && g.mom_a(e) == d)
-                    return true;
-            }
-            return false;
-        case 194:
-            // Two moments on one support, one from each of its spans.
-            for (int e = 1; e < k; ++e) {
-                const int se = g.mom_span(e);
-                const float de = g.mom_a(e);
-                if ((se == s - 1 && de == length(se) && d == 0) ||
-                    (se == s + 1 && de == 0 && d == length(s))) {
-                    return true;
-                }
-            }
-            return false;
-        }
-        break;
-    }
     }
     return false;
+}
+
+// Whether row k of a table fails the check of `code`. Spans are known to lie on
+// the beam when a code reads a span length: the span check comes first.
+bool uniform_fails(const Model& m, const LoadGroup& g, int k, int code, bool gap_before)
+{
+    const int s = g.uni_span(k);
+    switch (code) {
+    case 116:
+        return s > m.nf;
+    case 114:
+        return any_earlier(k, [&](int e) { return g.uni_span(e) == s; });
+    case 112:
+        return gap_before;
+    case 120:
+        return g.uni_q(k) == 0;
+    default:
+        return false;
+    }
+}
+
+bool trapezoid_fails(const Model& m, const LoadGroup& g, int k, int code)
+{
+    const int s = g.trap_span(k);
+    const float a = g.trap_a(k), b = g.trap_b(k), q1 = g.trap_q1(k), q2 = g.trap_q2(k);
+    switch (code) {
+    case 130:
+    case 137:
+        return s > m.nf;
+    case 144:
+        return b == 0;
+    case 146:
+        return b > m.ffl_s(s);
+    case 138:
+        return a > m.ffl_s(s);
+    case 140:
+        return a > b;
+    case 142:
+        return a == b;
+    case 148: // lying end to end is no overlap
+        return any_earlier(k,
+                           [&](int e) { return g.trap_span(e) == s && a < g.trap_b(e) && g.trap_a(e) < b; });
+    case 150:
+        return q1 == 0 && q2 == 0;
+    case 152:
+        return (q1 < 0 && q2 > 0) || (q1 > 0 && q2 < 0);
+    default:
+        return false;
+    }
+}
+
+bool point_fails(const Model& m, const LoadGroup& g, int k, int code)
+{
+    const int s = g.pt_span(k);
+    const float c = g.pt_a(k);
+    switch (code) {
+    case 163:
+        return s > m.nf;
+    case 172:
+        return g.pt_P(k) == 0;
+    case 168:
+        return c > m.ffl_s(s);
+    case 170:
+        return c == 0 || c == m.ffl_s(s);
+    case 174:
+        return any_earlier(k, [&](int e) { return g.pt_span(e) == s && g.pt_a(e) == c; });
+    default:
+        return false;
+    }
+}
+
+bool moment_fails(const Model& m, const LoadGroup& g, int k, int code)
+{
+    const int s = g.mom_span(k);
+    const float d = g.mom_a(k);
+    const float L = s >= 1 && s <= m.nf ? m.ffl_s(s) : 0;
+    switch (code) {
+    case 184:
+        return s > m.nf;
+    case 190:
+        return g.mom_M(k) == 0;
+    case 188:
+        return d > L;
+    case 196:
+        return (s == 1 && d == 0 && m.nsupLeft_s == kBuiltIn) ||
+               (s == m.nf && d == L && m.nsupRight_s == kBuiltIn);
+    case 192:
+        return any_earlier(k, [&](int e) { return g.mom_span(e) == s && g.mom_a(e) == d; });
+    case 194:
+        // Two moments on one support, one from each of its spans.
+        return any_earlier(k, [&](int e) {
+            const int se = g.mom_span(e);
+            const float de = g.mom_a(e);
+            return (se == s - 1 && de == m.ffl_s(se) && d == 0) || (se == s + 1 && de == 0 && d == L);
+        });
+    default:
+        return false;
+    }
+}
+
+bool fails(const Model& m, const LoadGroup& g, LoadTable table, int k, int code, bool gap_before)
+{
+    switch (table) {
+    case LoadTable::Uniform:
+        return uniform_fails(m, g, k, code, gap_before);
+    case LoadTable::Trapezoid:
+        return trapezoid_fails(m, g, k, code);
+    case LoadTable::Point:
+        return point_fails(m, g, k, code);
+    case LoadTable::Moment:
+        break;
+    }
+    return moment_fails(m, g, k, code);
 }
 
 int span_of(const LoadGroup& g, LoadTable table, int k)

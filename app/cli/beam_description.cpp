@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <set>
 
 namespace kvelder::cli {
@@ -189,29 +190,39 @@ void loads_into(const json& v, const std::string& key, LoadGroup& g)
     }
 }
 
+// A row chosen by its index under `index_key` or by its name under `name_key`
+// (the first row of that name); none when the description gives neither.
+template <typename NameOf>
+std::optional<std::int16_t> chosen_row(const json& d, const char* index_key, const char* name_key,
+                                       int last_row, NameOf name_of, const std::string& unknown)
+{
+    if (d.contains(index_key) && d.contains(name_key)) {
+        fail(name_key, std::string("and \"") + index_key + "\" both choose the row; give one of them");
+    }
+    if (d.contains(index_key)) {
+        return static_cast<std::int16_t>(integer(d[index_key], index_key, 0, last_row));
+    }
+    if (!d.contains(name_key)) {
+        return std::nullopt;
+    }
+    if (!d[name_key].is_string()) {
+        fail(name_key, "must be a text");
+    }
+    const std::string name = d[name_key].get<std::string>();
+    for (int r = 0; r <= last_row; ++r) {
+        if (name_of(r) == name) {
+            return static_cast<std::int16_t>(r);
+        }
+    }
+    fail(name_key, unknown + " \"" + name + "\"");
+}
+
 void select_setup_row(Model& m, const json& d)
 {
-    if (d.contains("annex") && d.contains("setup_row")) {
-        fail("annex", "and \"setup_row\" both choose the setup row; give one of them");
-    }
-    if (d.contains("setup_row")) {
-        m.setup.setup_row =
-            static_cast<std::int16_t>(integer(d["setup_row"], "setup_row", 0, m.setup.setup_last_row));
-    } else if (d.contains("annex")) {
-        if (!d["annex"].is_string()) {
-            fail("annex", "must be a text");
-        }
-        const std::string code = d["annex"].get<std::string>();
-        int row = -1;
-        for (int r = 0; r <= m.setup.setup_last_row && row < 0; ++r) {
-            if (m.setup.setup_table[static_cast<std::size_t>(r)].annex == code) {
-                row = r;
-            }
-        }
-        if (row < 0) {
-            fail("annex", "no row of the setup file has the code \"" + code + "\"");
-        }
-        m.setup.setup_row = static_cast<std::int16_t>(row);
+    const auto annex_of = [&m](int r) { return m.setup.setup_table[static_cast<std::size_t>(r)].annex; };
+    if (const auto row = chosen_row(d, "setup_row", "annex", m.setup.setup_last_row, annex_of,
+                                    "no row of the setup file has the code")) {
+        m.setup.setup_row = *row;
     }
     if (d.contains("language")) {
         m.setup.setup_language = text(d["language"], "language", {"Eng", "Nor"});
@@ -266,37 +277,16 @@ void set_geometry(Model& m, const json& d)
 
 void set_material_and_section(Model& m, const json& d)
 {
-    if (d.contains("material") && d.contains("material_row")) {
-        fail("material", "and \"material_row\" both choose the material; give one of them");
-    }
-    if (d.contains("material_row")) {
-        m.material_row = static_cast<std::int16_t>(
-            integer(d["material_row"], "material_row", 0, m.material_table.last_row));
-    } else if (d.contains("material")) {
-        if (!d["material"].is_string()) {
-            fail("material", "must be a text");
-        }
-        const std::string name = d["material"].get<std::string>();
-        int row = -1;
-        for (int r = 0; r <= m.material_table.last_row && row < 0; ++r) {
-            if (m.material_table.rows[static_cast<std::size_t>(r)].name == name) {
-                row = r;
-            }
-        }
-        if (row < 0) {
-            fail("material", "the material catalogue has no class \"" + name + "\"");
-        }
-        m.material_row = static_cast<std::int16_t>(row);
+    const auto name_of = [&m](int r) { return m.material_table.rows[static_cast<std::size_t>(r)].name; };
+    if (const auto row = chosen_row(d, "material_row", "material", m.material_table.last_row, name_of,
+                                    "the material catalogue has no class")) {
+        m.material_row = *row;
     }
 
     if (d.contains("prof_type_index")) {
         m.prof_type_index = static_cast<std::int16_t>(integer(d["prof_type_index"], "prof_type_index", 0, 3));
         m.material_family = family_code(m.prof_type_index);
         m.section_form = "Firk";
-        // Kerto and k_bjelke are not made for service class 3.
-        if (m.prof_type_index >= 2 && m.service_class == 3) {
-            m.service_class = 2;
-        }
     }
     if (d.contains("prof_index")) {
         m.prof_index = static_cast<std::int16_t>(integer(d["prof_index"], "prof_index", 0, 400));
@@ -337,7 +327,7 @@ void set_classes_and_checks(Model& m, const json& d)
         m.duration_class = static_cast<std::int16_t>(integer(d["duration_class"], "duration_class", 1, 5));
     }
     if (d.contains("service_class")) {
-        const int highest = m.prof_type_index >= 2 ? 2 : 3;
+        const int highest = m.prof_type_index >= 2 ? 2 : 3; // kerto and k_bjelke are not made for class 3
         m.service_class = static_cast<std::int16_t>(integer(d["service_class"], "service_class", 1, highest));
     }
     if (d.contains("ksys")) {

@@ -107,6 +107,18 @@ TEST(CliCalc, ADescriptionChangesWhatItNames)
     EXPECT_EQ(result["spans"][1]["points"].size(), 53U);
 }
 
+TEST(CliCalc, ACircleHasNeitherBucklingNorBearingCheck)
+{
+    const CliRun r =
+        run("calc " + description("circle.json",
+                                  R"({"section_form": "Tube", "section_d": 300, "vipping_off": false})"));
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json result = json::parse(r.out);
+    EXPECT_TRUE(result["checks"][0]["Uf_ltb"].is_null());
+    EXPECT_FALSE(result["bearing"][1].contains("Uf_c90"));
+    EXPECT_EQ(result["section"]["Azz"].get<float>(), f32(150.0 * 150 * 3.14 * 0.5));
+}
+
 TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
 {
     CliRun r = run("calc " + description("no_span.json", R"({"ffl_s": [5.0, 0.0]})"));
@@ -144,6 +156,7 @@ TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
         {R"({"material": "C99"})", "\"material\""},
         {R"({"annex": "Xyz"})", "\"annex\""},
         {R"({"psi0_1": 0.75})", "\"psi0_1\""},
+        {R"({"prof_type_index": 2, "service_class": 3})", "\"service_class\""},
         {R"({"nsupLeft_s": "X"})", "\"nsupLeft_s\""},
         {R"({"G": {"uni": [[1, 1], [1, 1], [1, 1], [1, 1], [1, 1], [2, 1]]}})", "\"G.uni\""},
         {R"({"Q1": {"pt": [[1.5, 1, 1]]}})", "\"Q1.pt[0][0]\""},

@@ -104,6 +104,17 @@ TEST(LateralBuckling, KCritFollowsTheSlendernessInThreeRanges)
     EXPECT_EQ(k_for(0.5F), 1.0F);
     EXPECT_NEAR(k_for(1.0F), 1.56 - 0.75, 1e-5);
     EXPECT_NEAR(k_for(2.0F), 0.25, 1e-5);
+
+    // The limits themselves: sigma_crit = 100 exactly, fmk = 56.25 and 196.
+    m->section_b = 100, m->section_h = 78, m->E0_05 = 1000, m->l_eff(1) = 1;
+    m->fmk = 56.25F;
+    Calc_k_crit(*m);
+    ASSERT_EQ(m->lambda_rel_m(1), 0.75F);
+    EXPECT_EQ(m->k_crit(1), 1.0F);
+    m->fmk = 196;
+    Calc_k_crit(*m);
+    ASSERT_EQ(m->lambda_rel_m(1), 1.4F);
+    EXPECT_NEAR(m->k_crit(1), 0.5102, 1e-4);
     m->l_eff(1) = -0.1F; // a length of nothing cannot buckle
     Calc_k_crit(*m);
     EXPECT_EQ(m->k_crit(1), 1.0F);
@@ -130,10 +141,18 @@ TEST(LateralBuckling, ChecksSaggingInsideTheSpanAndTheSupportOfACantilever)
     EXPECT_FLOAT_EQ(m->Uf_ltb(1), 0.4F);
     EXPECT_FLOAT_EQ(m->sigma_ltb(1), 2.0F);
 
-    m->vipping_off = kTrue;
-    m->Uf_ltb(1) = 0;
+    // With nothing but stations below the cut, the last of them stands.
+    m->support_kind(1) = kSimple;
+    m->M_min.fill(0);
+    m->M_min(1, 5) = -0.00005F;
     Control_sections(*m);
     EXPECT_EQ(m->Uf_ltb(1), 0);
+    EXPECT_EQ(m->M_ltb(1), 0.00005F);
+
+    m->vipping_off = kTrue;
+    m->M_ltb(1) = 7;
+    Control_sections(*m);
+    EXPECT_EQ(m->M_ltb(1), 7); // no check: nothing written
 }
 
 TEST(Bearing, SpreadsTheReactionOverWidthAndBearingLength)
