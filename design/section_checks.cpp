@@ -11,23 +11,31 @@ struct Governing {
     float uf = 0, stress = 0, force = 0, x = 0;
 };
 
-// The station of the largest usage factor along span i. `force(j)` is the
-// envelope value at station j; |force x factor| x scale / section is its stress
-// in MPa, and `strength` the design strength.
-template <typename Force>
-Governing largest(Model& m, int i, Force force, float cut, double factor, double scale, double section,
-                  double strength, Table2<float, kMaxSpans, kMaxPoints>& stress_st,
-                  Table2<float, kMaxSpans, kMaxPoints>& uf_st)
+using StationTable = Table2<float, kMaxSpans, kMaxPoints>;
+
+// How an envelope value becomes a stress: |value x factor| x scale / section,
+// in MPa, against `strength`. Values below `cut` count as nought.
+struct StressRule {
+    float cut;
+    double factor;
+    double scale;
+    double section;
+    double strength;
+};
+
+// The station of the largest usage factor along span i; the first of equal ones.
+Governing largest(Model& m, int i, const StationTable& envelope, const StressRule& rule,
+                  StationTable& stress_st, StationTable& uf_st)
 {
     Governing g;
     for (int j = 1; j <= m.nxtot_s(i); ++j) {
-        const float f = force(j);
-        if (std::abs(f) < cut) {
+        const float f = envelope(i, j);
+        if (std::abs(f) < rule.cut) {
             uf_st(i, j) = 0;
             stress_st(i, j) = 0;
         } else {
-            stress_st(i, j) = f32(std::abs(f * factor) * scale / section);
-            uf_st(i, j) = f32(stress_st(i, j) / strength);
+            stress_st(i, j) = f32(std::abs(f * rule.factor) * rule.scale / rule.section);
+            uf_st(i, j) = f32(stress_st(i, j) / rule.strength);
         }
         if (g.uf < uf_st(i, j)) {
             g = {uf_st(i, j), stress_st(i, j), f, m.xl_s(i, j)};
@@ -52,13 +60,10 @@ void Control_sections(Model& m)
         m.Uf_tau_pos(i) = m.Uf_tau_neg(i) = m.V_pos(i) = m.V_neg(i) = 0;
         m.tau_pos(i) = m.tau_neg(i) = m.xt_pos(i) = m.xt_neg(i) = 0;
     }
+    const StressRule bending{0.0001F, 1.0, 1000000.0, m.Wyy, m.fmd};
     for (int i = 1; i <= m.nf; ++i) {
-        const Governing pos = largest(
-            m, i, [&](int j) { return m.M_max(i, j); }, 0.0001F, 1.0, 1000000.0, m.Wyy, m.fmd, m.sigma_st,
-            m.Uf_sigma_st);
-        const Governing neg = largest(
-            m, i, [&](int j) { return m.M_min(i, j); }, 0.0001F, 1.0, 1000000.0, m.Wyy, m.fmd, m.sigma_st,
-            m.Uf_sigma_st);
+        const Governing pos = largest(m, i, m.M_max, bending, m.sigma_st, m.Uf_sigma_st);
+        const Governing neg = largest(m, i, m.M_min, bending, m.sigma_st, m.Uf_sigma_st);
         m.Uf_pos(i) = pos.uf, m.sigma_pos(i) = pos.stress, m.M_pos(i) = std::abs(pos.force),
         m.x_pos(i) = pos.x;
         m.Uf_neg(i) = neg.uf, m.sigma_neg(i) = neg.stress, m.M_neg(i) = std::abs(neg.force),
@@ -66,13 +71,11 @@ void Control_sections(Model& m)
         const Governing& gov = worse(pos, neg);
         m.Uf_mom(i) = gov.uf, m.M_gov(i) = std::abs(gov.force), m.x_mom(i) = gov.x;
     }
+    // 1.5 V / A: the peak shear stress of a rectangle, and 3 V / A for a circle's half area.
+    const StressRule shear{0.00001F, 1.5, 1000.0, m.Azz, m.fvd};
     for (int i = 1; i <= m.nf; ++i) {
-        const Governing pos = largest(
-            m, i, [&](int j) { return m.V_max(i, j); }, 0.00001F, 1.5, 1000.0, m.Azz, m.fvd, m.tau_st,
-            m.Uf_tau_st);
-        const Governing neg = largest(
-            m, i, [&](int j) { return m.V_min(i, j); }, 0.00001F, 1.5, 1000.0, m.Azz, m.fvd, m.tau_st,
-            m.Uf_tau_st);
+        const Governing pos = largest(m, i, m.V_max, shear, m.tau_st, m.Uf_tau_st);
+        const Governing neg = largest(m, i, m.V_min, shear, m.tau_st, m.Uf_tau_st);
         m.Uf_tau_pos(i) = pos.uf, m.tau_pos(i) = pos.stress, m.V_pos(i) = pos.force, m.xt_pos(i) = pos.x;
         m.Uf_tau_neg(i) = neg.uf, m.tau_neg(i) = neg.stress, m.V_neg(i) = neg.force, m.xt_neg(i) = neg.x;
         const Governing& gov = worse(pos, neg);

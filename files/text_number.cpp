@@ -1,6 +1,7 @@
 #include "files/text_number.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -16,7 +17,8 @@ bool is_blank(char c)
 }
 
 // The longest leading decimal number of `s` (sign, digits, point, exponent);
-// 0 when there is none. No value when it overflows a double.
+// 0 when there is none, and for one too small for a double. No value when it
+// is too large for one.
 std::optional<double> leading_number(const std::string& s)
 {
     const char* first = s.data();
@@ -36,7 +38,9 @@ std::optional<double> leading_number(const std::string& s)
         return 0.0;
     }
     if (ec == std::errc::result_out_of_range) {
-        return std::nullopt;
+        const std::size_t e = s.find_first_of("eE");
+        const bool tiny = e != std::string::npos && e + 1 < s.size() && s[e + 1] == '-';
+        return tiny ? std::optional<double>(0.0) : std::nullopt;
     }
     return negative ? -value : value;
 }

@@ -1,13 +1,89 @@
 #include "ui/number_format.h"
 
-#include <cmath>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 
 namespace kvelder {
 namespace {
 
-// Digits after the point in the pattern between `first` and `last`.
+// A number as decimal digits: 0.d1 d2 d3 ... x 10^point, without leading noughts.
+struct Decimal {
+    bool negative = false;
+    std::string digits;
+    int point = 0;
+};
+
+// The shortest digits that read back to the value; to those of the single
+// when the value is one, so that a stored 1.005 rounds as 1.005 and not as
+// the 1.00499995 the single holds.
+Decimal decimal_of(double value)
+{
+    char buffer[64];
+    const auto single = static_cast<float>(value);
+    const char* end =
+        static_cast<double>(single) == value
+            ? std::to_chars(buffer, buffer + sizeof buffer, single, std::chars_format::scientific).ptr
+            : std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific).ptr;
+    const std::string text(static_cast<const char*>(buffer), end); // "-d.ddde+xx"
+    Decimal d;
+    std::size_t k = 0;
+    if (text[k] == '-') {
+        d.negative = true;
+        ++k;
+    }
+    const std::size_t e = text.find('e');
+    for (; k < e; ++k) {
+        if (text[k] != '.') {
+            d.digits += text[k];
+        }
+    }
+    d.point = std::atoi(text.c_str() + e + 1) + 1;
+    if (d.digits == "0") {
+        d.point = 1;
+    }
+    return d;
+}
+
+// Keeps the first `keep` digits, rounding half away from zero.
+void round_to(Decimal& d, int keep)
+{
+    if (keep >= static_cast<int>(d.digits.size())) {
+        return;
+    }
+    if (keep < 0) {
+        d.digits = "0";
+        d.point = 1;
+        return;
+    }
+    const bool up = d.digits[static_cast<std::size_t>(keep)] >= '5';
+    d.digits.resize(static_cast<std::size_t>(keep));
+    if (up) {
+        int k = keep - 1;
+        for (; k >= 0 && d.digits[static_cast<std::size_t>(k)] == '9'; --k) {
+            d.digits[static_cast<std::size_t>(k)] = '0';
+        }
+        if (k >= 0) {
+            ++d.digits[static_cast<std::size_t>(k)];
+        } else {
+            d.digits.insert(d.digits.begin(), '1');
+            ++d.point;
+        }
+    }
+    if (d.digits.find_first_not_of('0') == std::string::npos) {
+        d.digits = "0";
+        d.point = 1;
+        d.negative = false;
+    }
+}
+
+char digit_at(const Decimal& d, int index)
+{
+    return index >= 0 && index < static_cast<int>(d.digits.size()) ? d.digits[static_cast<std::size_t>(index)]
+                                                                   : '0';
+}
+
+// Digits after the point in a pattern.
 int decimals(std::string_view body)
 {
     const std::size_t point = body.find('.');
@@ -21,20 +97,42 @@ int decimals(std::string_view body)
     return n;
 }
 
-// Rounds half away from zero at `places` decimals, as the display does.
-double round_half_away(double value, int places)
+std::string fixed(double value, int places)
 {
-    const double scale = std::pow(10.0, places);
-    const double scaled = value * scale;
-    // The text of the double decides a tie, not the binary value below it.
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.*f", places + 3, std::abs(scaled) - std::floor(std::abs(scaled)));
-    const double fraction = std::strtod(buffer, nullptr);
-    double whole = std::floor(std::abs(scaled));
-    if (fraction >= 0.5) {
-        whole += 1;
+    Decimal d = decimal_of(value);
+    round_to(d, d.point + places);
+    std::string text = d.negative ? "-" : "";
+    if (d.point <= 0) {
+        text += '0';
     }
-    return std::copysign(whole / scale, value);
+    for (int k = 0; k < d.point; ++k) {
+        text += digit_at(d, k);
+    }
+    if (places > 0) {
+        text += '.';
+        for (int k = 0; k < places; ++k) {
+            text += digit_at(d, d.point + k);
+        }
+    }
+    return text;
+}
+
+std::string scientific(double value, int places, int exponent_digits)
+{
+    Decimal d = decimal_of(value);
+    round_to(d, places + 1);
+    std::string text = d.negative ? "-" : "";
+    text += digit_at(d, 0);
+    if (places > 0) {
+        text += '.';
+        for (int k = 1; k <= places; ++k) {
+            text += digit_at(d, k);
+        }
+    }
+    const int power = d.digits == "0" ? 0 : d.point - 1;
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "E%c%0*d", power < 0 ? '-' : '+', exponent_digits, std::abs(power));
+    return text + buffer;
 }
 
 } // namespace
@@ -45,47 +143,27 @@ std::string format_number(double value, std::string_view pattern, bool decimal_c
     if (first == std::string_view::npos) {
         return std::string(pattern);
     }
-    std::size_t last = pattern.find_last_of("0#");
     const std::size_t exponent = pattern.find("E+");
-    if (exponent != std::string_view::npos) {
-        last = pattern.find_last_of('0');
-    }
-    const std::string_view prefix = pattern.substr(0, first);
-    const std::string_view suffix = pattern.substr(last + 1);
+    const std::size_t last = pattern.find_last_of(exponent == std::string_view::npos ? "0#" : "0");
     const std::string_view body = pattern.substr(first, last - first + 1);
 
     std::string text;
-    char buffer[64];
     if (exponent != std::string_view::npos) {
-        const int places = decimals(body.substr(0, body.find('E')));
-        const int exp_digits = static_cast<int>(body.size() - body.find("E+") - 2);
-        int power = value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
-        double mantissa = round_half_away(value / std::pow(10.0, power), places);
-        if (std::abs(mantissa) >= 10) {
-            ++power;
-            mantissa = round_half_away(value / std::pow(10.0, power), places);
-        }
-        std::snprintf(buffer, sizeof buffer, "%.*fE%c%0*d", places, mantissa, power < 0 ? '-' : '+',
-                      exp_digits, std::abs(power));
-        text = buffer;
+        text = scientific(value, decimals(body.substr(0, body.find('E'))),
+                          static_cast<int>(body.size() - body.find("E+") - 2));
     } else {
-        const int places = decimals(body);
-        const double rounded = round_half_away(value, places);
-        std::snprintf(buffer, sizeof buffer, "%.*f", places, rounded == 0 ? 0.0 : rounded);
-        text = buffer;
-        // "#" shows no nought before the point, nor a lone nought.
-        if (body.front() == '#' && body.find('0') == std::string_view::npos && text == "0") {
+        text = fixed(value, decimals(body));
+        // "#" alone shows no lone nought.
+        if (body.find('0') == std::string_view::npos && text == "0") {
             text.clear();
         }
     }
     if (decimal_comma) {
         for (char& c : text) {
-            if (c == '.') {
-                c = ',';
-            }
+            c = c == '.' ? ',' : c;
         }
     }
-    return std::string(prefix) + text + std::string(suffix);
+    return std::string(pattern.substr(0, first)) + text + std::string(pattern.substr(last + 1));
 }
 
 } // namespace kvelder

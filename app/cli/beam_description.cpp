@@ -5,10 +5,11 @@
 #include "files/setup_file.h"
 #include "ui/change_beam.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
-#include <set>
+#include <string_view>
 
 namespace kvelder::cli {
 namespace {
@@ -20,45 +21,15 @@ using nlohmann::json;
     throw DescriptionError("\"" + key + "\": " + what);
 }
 
-const std::set<std::string>& known_keys()
-{
-    static const std::set<std::string> keys{"language",
-                                            "annex",
-                                            "setup_row",
-                                            "nf",
-                                            "ffl_s",
-                                            "nsupLeft_s",
-                                            "nsupRight_s",
-                                            "loadcomb_option",
-                                            "comb_rule",
-                                            "profile_weight_on",
-                                            "G",
-                                            "Q1",
-                                            "Q2",
-                                            "material_row",
-                                            "material",
-                                            "prof_type_index",
-                                            "prof_index",
-                                            "section_form",
-                                            "section_b",
-                                            "section_h",
-                                            "section_d",
-                                            "duration_class",
-                                            "service_class",
-                                            "ksys",
-                                            "safety_class",
-                                            "psi0_1",
-                                            "psi0_2",
-                                            "psi2_1",
-                                            "psi2_2",
-                                            "vipping_off",
-                                            "l_stag",
-                                            "lef_factor",
-                                            "load_location",
-                                            "bearing_length",
-                                            "bearing_kc90"};
-    return keys;
-}
+// The keys of a beam description: the model's own names.
+// clang-format off
+constexpr std::array<std::string_view, 35> kKeys = {
+    "language", "annex", "setup_row", "nf", "ffl_s", "nsupLeft_s", "nsupRight_s", "loadcomb_option",
+    "comb_rule", "profile_weight_on", "G", "Q1", "Q2", "material_row", "material", "prof_type_index",
+    "prof_index", "section_form", "section_b", "section_h", "section_d", "duration_class", "service_class",
+    "ksys", "safety_class", "psi0_1", "psi0_2", "psi2_1", "psi2_2", "vipping_off", "l_stag", "lef_factor",
+    "load_location", "bearing_length", "bearing_kc90"};
+// clang-format on
 
 float number(const json& v, const std::string& key)
 {
@@ -387,7 +358,7 @@ void apply_description(Model& m, const json& d)
         throw DescriptionError("the beam description must be a JSON object");
     }
     for (const auto& [key, value] : d.items()) {
-        if (known_keys().count(key) == 0) {
+        if (std::find(kKeys.begin(), kKeys.end(), key) == kKeys.end()) {
             fail(key, "is not a key of a beam description");
         }
     }

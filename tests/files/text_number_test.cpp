@@ -45,6 +45,7 @@ TEST(TextToNumber, APointMachineReadsTheLeadingNumberAndACommaMachineRefusesRubb
     EXPECT_EQ(read("12abc", kPointMachine), 12.0F);
     EXPECT_EQ(read("abc", kPointMachine), 0.0F);
     EXPECT_EQ(read("inf", kPointMachine), 0.0F);
+    EXPECT_EQ(read("1e-400", kPointMachine), 0.0F);
     EXPECT_EQ(read("12abc", kCommaMachine), std::nullopt);
     EXPECT_EQ(read("abc", kCommaMachine), std::nullopt);
     EXPECT_EQ(read("   ", kCommaMachine), std::nullopt);

@@ -110,6 +110,11 @@ TEST(NumberFormat, WritesThePatternsOfTheDisplay)
     EXPECT_EQ(format_number(1.256e9, "0.000E+00"), "1.256E+09");
     EXPECT_EQ(format_number(0.000123, "0.00E+00"), "1.23E-04");
     EXPECT_EQ(format_number(1.5, "0.00", true), "1,50");
+    EXPECT_EQ(format_number(1.005F, "0.00"), "1.01"); // the single as it was typed
+    EXPECT_EQ(format_number(9.996, "0.00"), "10.00");
+    EXPECT_EQ(format_number(9.9996e5, "0.000E+00"), "1.000E+06");
+    EXPECT_EQ(format_number(0.004, "0.00"), "0.00");
+    EXPECT_EQ(format_number(0.0049, "0.0"), "0.0");
 }
 
 } // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kvelder::cli {
+
+// The exit codes of the command.
+constexpr int kCalculated = 0;
+constexpr int kCheckFailed = 1;
+constexpr int kUsageError = 2;
+
+extern const char* const kUsage;
+
+// A failure that ends the command with its exit code and one line on stderr
+// (the usage text where the line is empty).
+struct Stop {
+    int code;
+    std::string line;
+};
+
+struct Options {
+    std::string command; // "calc" or "bench"
+    std::optional<std::filesystem::path> input;
+    std::optional<std::filesystem::path> data_dir;
+    bool text = false;
+    int runs = 1000;
+};
+
+// The command line after the program's name; throws Stop when it cannot be used.
+Options parse(const std::vector<std::string>& args);
+
+} // namespace kvelder::cli
