@@ -64,6 +64,11 @@ bool Read_profile_dimensions(Model& m, int family, int row)
     return true;
 }
 
+int middle_profile_row(int count)
+{
+    return static_cast<int>(std::nearbyint(count / 2.0));
+}
+
 void Check_section_input(Model& m)
 {
     bool invalid = m.section_d <= 0 || m.section_b <= 0 || m.section_h <= 0;

@@ -16,6 +16,10 @@ void Calc_design_strength(Model& m);
 // 3 k_bjelke). A row the list does not hold changes nothing; false then.
 bool Read_profile_dimensions(Model& m, int family, int row);
 
+// The row a profile list falls back to when it does not hold the row asked for:
+// its middle, half the count rounded to the nearest (ties to even).
+int middle_profile_row(int count);
+
 // Flags dimensions, bearing lengths and buckling data outside their limits in
 // calc_invalid. Nothing reads the flag; the recalculation goes on regardless.
 void Check_section_input(Model& m);

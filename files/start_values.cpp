@@ -6,6 +6,8 @@
 #include "files/setup_file.h"
 #include "files/text_number.h"
 
+#include <algorithm>
+
 namespace kvelder {
 
 void StartBeam(Model& m)
@@ -43,13 +45,14 @@ void StartSection(Model& m)
     m.duration_class = 3;
     m.service_class = 1;
     m.ksys = 1.0F;
-    m.material_row = 24;
+    // A catalogue of fewer classes than the shipped one starts on its last class.
+    m.material_row = static_cast<std::int16_t>(std::min<int>(24, m.material_table.last_row));
     m.material_family = kLaminated;
     m.prof_type_index = 1;
     m.prof_index = 52;
-    // A shorter laminated list than the shipped one gives its middle row.
     if (!Read_profile_dimensions(m, 1, 52)) {
-        m.prof_index = static_cast<std::int16_t>(m.profile_families.of(1).size() / 2);
+        m.prof_index =
+            static_cast<std::int16_t>(middle_profile_row(static_cast<int>(m.profile_families.of(1).size())));
         Read_profile_dimensions(m, 1, m.prof_index);
     }
     m.standard_section = kTrue;

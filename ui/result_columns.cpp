@@ -3,6 +3,8 @@
 #include "design/section_checks.h"
 #include "ui/number_format.h"
 
+#include <array>
+
 namespace kvelder {
 namespace {
 
@@ -78,16 +80,62 @@ std::array<BearingRow, kMaxNodes> bearing_rows(const Model& m)
     return rows;
 }
 
+namespace {
+
+std::string duration_words(const std::string& language, int duration_class)
+{
+    static constexpr std::array<std::array<const char*, 2>, 5> words{{
+        {"Permanent action", "Permanent last"},
+        {"Long term action", "Langtid last"},
+        {"Medium term action", "Halv\u00e5rs last"},
+        {"Short term action", "Kort tids last"},
+        {"Instantaneous action", "\u00d8yeblikks last"},
+    }};
+    if (duration_class < 1 || duration_class > 5) {
+        return {};
+    }
+    return words[static_cast<std::size_t>(duration_class - 1)][language == "Eng" ? 0 : 1];
+}
+
+} // namespace
+
 FactorLabels factor_labels(const Model& m)
 {
     const auto psi = [](float psi0, float psi2) {
         return "psi0 = " + format_number(psi0, "0.0") + "   psi2 = " + format_number(psi2, "0.0");
     };
-    return {format_number(m.gamma_M, "0.00 "), format_number(m.kcr, "0.00 "), format_number(m.kmod, "0.00 "),
-            format_number(m.kdef, "0.00 "),    format_number(m.ksys, "0.00"), format_number(m.kh, "0.00"),
-            std::to_string(m.service_class),   psi(m.psi0_1, m.psi2_1),       psi(m.psi0_2, m.psi2_2),
-            format_number(m.fmd, "0.0"),       format_number(m.fvd, "0.0"),   format_number(m.fc90d, "0.0"),
-            format_number(m.fmk, "0.0"),       format_number(m.fvk, "0.0"),   format_number(m.fc90k, "0.0")};
+    const bool norway = m.annex == "Nor";
+    const bool sweden = m.annex == "Swe";
+    std::string safety_frame;
+    std::string safety_class;
+    if (norway) {
+        safety_frame = m.language == "Nor" ? "P\u00e5lit. klasse" : "Rel. class";
+        safety_class = m.safety_class == 1 ? "1" : "2 - 4";
+    } else if (sweden) {
+        safety_frame = "Safety class";
+        safety_class = std::to_string(m.safety_class);
+    }
+    FactorLabels labels;
+    labels.gamma_M = format_number(m.gamma_M, "0.00 ");
+    labels.kcr = format_number(m.kcr, "0.00 ");
+    labels.kmod = format_number(m.kmod, "0.00 ");
+    labels.kdef = format_number(m.kdef, "0.00 ");
+    labels.ksys = format_number(m.ksys, "0.00");
+    labels.kh = format_number(m.kh, "0.00");
+    labels.service_class = std::to_string(m.service_class);
+    labels.psi_Q1 = psi(m.psi0_1, m.psi2_1);
+    labels.psi_Q2 = psi(m.psi0_2, m.psi2_2);
+    labels.fmd = format_number(m.fmd, "0.0");
+    labels.fvd = format_number(m.fvd, "0.0");
+    labels.fc90d = format_number(m.fc90d, "0.0");
+    labels.fmk = format_number(m.fmk, "0.0");
+    labels.fvk = format_number(m.fvk, "0.0");
+    labels.fc90k = format_number(m.fc90k, "0.0");
+    labels.duration = duration_words(m.language, m.duration_class);
+    labels.safety_frame = safety_frame;
+    labels.safety_class = safety_class;
+    labels.kfi = (sweden ? "Sk = " : "Kfi = ") + format_number(m.kfi, "0.00");
+    return labels;
 }
 
 } // namespace kvelder

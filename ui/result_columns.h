@@ -48,6 +48,10 @@ std::array<BearingRow, kMaxNodes> bearing_rows(const Model& m);
 struct FactorLabels {
     std::string gamma_M, kcr, kmod, kdef, ksys, kh, service_class, psi_Q1, psi_Q2;
     std::string fmd, fvd, fc90d, fmk, fvk, fc90k;
+    std::string duration;     // the load-duration class in words
+    std::string safety_frame; // caption of the class frame; empty where the annex shows none
+    std::string safety_class; // Lbl_safe_fac
+    std::string kfi;          // Lbl_kfi_1: "Kfi = " or "Sk = " and the factor
 };
 FactorLabels factor_labels(const Model& m);
 

@@ -223,5 +223,30 @@ TEST(ResultColumns, ShowOverrunsInRedAndAbsentSpansBlank)
     EXPECT_EQ(bearing_rows(*m)[0].node.text, "");
 }
 
+TEST(FactorLabels, NameTheClassAsTheAnnexDoes)
+{
+    auto m = example_beam();
+    m->language = "Nor";
+    m->annex = "Nor";
+    m->safety_class = 2;
+    m->kfi = 1.0F;
+    m->duration_class = 5;
+    FactorLabels labels = factor_labels(*m);
+    EXPECT_EQ(labels.safety_frame, "P\u00e5lit. klasse");
+    EXPECT_EQ(labels.safety_class, "2 - 4");
+    EXPECT_EQ(labels.kfi, "Kfi = 1.00");
+    EXPECT_EQ(labels.duration, "\u00d8yeblikks last");
+    m->annex = "Swe";
+    m->kfi = 0.91F;
+    labels = factor_labels(*m);
+    EXPECT_EQ(labels.safety_frame, "Safety class");
+    EXPECT_EQ(labels.safety_class, "2");
+    EXPECT_EQ(labels.kfi, "Sk = 0.91");
+    m->annex = "Euc";
+    EXPECT_EQ(factor_labels(*m).safety_frame, "");
+    m->psi0_1 = 0.7F, m->psi2_1 = 0.3F;
+    EXPECT_EQ(factor_labels(*m).psi_Q1, "psi0 = 0.7   psi2 = 0.3");
+}
+
 } // namespace
 } // namespace kvelder::test

@@ -5,6 +5,7 @@
 #include "files/data_files.h"
 #include "files/setup_file.h"
 #include "files/shipped_data.h"
+#include "files/start_values.h"
 #include "files/text_lines.h"
 #include "tests/support/beams.h"
 
@@ -88,6 +89,19 @@ TEST(DataFiles, AMissingOrEmptyFileGivesWayToTheShippedCopy)
     EXPECT_EQ(m.material_table, ReadMaterialCatalogue(shipped_material_catalogue(), 0, ignored));
     EXPECT_EQ(m.setup.setup_table[0].annex, "Nor");
     EXPECT_EQ(m.profile_families.of(1).size(), SplitProfileFamilies(m.profile_table).of(1).size());
+}
+
+TEST(DataFiles, AShortCatalogueStartsTheExampleBeamOnRowsItHas)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_short";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Material.csv") << kSevenHeadLines << "C24;;S;24;14.5;2.5;4;11000;7400;350;420;0\n";
+    std::ofstream(folder / "EC5Profile.csv") << kSevenHeadLines << "a;L;S;90;180\nb;L;S;90;225\nc;L;S;90;270\n";
+    Model m;
+    start_up(m, folder);
+    EXPECT_EQ(m.material_row, 0);
+    EXPECT_EQ(m.prof_index, 2); // the middle of three, rounded half to even
+    EXPECT_EQ(m.section_h, 270.0F);
 }
 
 TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
