@@ -1,6 +1,7 @@
 #include "ui/load_checks.h"
 
 #include "files/text_number.h"
+#include "ui/number_format.h"
 
 #include <algorithm>
 #include <span>
@@ -355,6 +356,31 @@ std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts
         }
     }
     return std::nullopt;
+}
+
+void ClipLoadsToSpans(const Model& m, LoadDialogTexts& texts)
+{
+    // Frame and box of the position that must lie inside the span.
+    constexpr std::array<std::pair<std::size_t, std::size_t>, 3> starts{{{1, 3}, {2, 2}, {3, 2}}};
+    for (const auto& [frame, box] : starts) {
+        for (RowTexts& row : texts.frames[frame]) {
+            std::string span_text = row[0];
+            const std::optional<std::int16_t> span = TextToInt16(span_text, m.decimal_comma);
+            if (row[0].empty() || !span || *span < 1 || *span > m.nf) {
+                continue;
+            }
+            const float L = m.ffl_s(*span);
+            std::string start_text = row[box];
+            if (TextToNumber(start_text, m.decimal_comma).value_or(0) >= L) {
+                row[0].clear();
+                continue;
+            }
+            std::string end_text = row[4];
+            if (frame == 1 && TextToNumber(end_text, m.decimal_comma).value_or(0) > L) {
+                row[4] = format_number(L, "0.000", m.decimal_comma != 0);
+            }
+        }
+    }
 }
 
 } // namespace kvelder

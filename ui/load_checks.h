@@ -52,4 +52,10 @@ struct LoadDialogTexts {
 // Converted boxes are rewritten with the machine's decimal separator.
 std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts& texts);
 
+// Fits the rows of a dialog to new span lengths: a point, moment or trapezoid
+// that starts at or beyond the end of its span loses its span number (and so
+// drops out at the next reading); a trapezoid that runs past the end ends there.
+// Rows on spans the beam does not have are left to the reading's checks.
+void ClipLoadsToSpans(const Model& m, LoadDialogTexts& texts);
+
 } // namespace kvelder

@@ -204,5 +204,24 @@ TEST(ReadRows, ABoxThatIsNoNumberFailsOnACommaMachine)
     EXPECT_EQ(failure_message("Eng", *failure)->text, "The text is not a number");
 }
 
+TEST(ClipLoadsToSpans, DropsRowsThatStartBeyondTheirSpanAndEndsTrapezoidsAtIt)
+{
+    auto m = example_beam();
+    m->ffl_s(1) = 3.0F;
+    LoadDialogTexts t;
+    t.frames[1] = {{"1", "1", "2", "1.5", "4"}, {"1", "1", "2", "3", "4"}, {"2", "1", "2", "3", "4"}};
+    t.frames[2] = {{"1", "5", "3"}, {"1", "5", "2.9"}, {"7", "5", "9"}};
+    t.frames[3] = {{"1", "5", "3.5"}};
+    ClipLoadsToSpans(*m, t);
+    EXPECT_EQ(t.frames[1][0][0], "1");
+    EXPECT_EQ(t.frames[1][0][4], "3.000");
+    EXPECT_EQ(t.frames[1][1][0], "");  // starts at the end
+    EXPECT_EQ(t.frames[1][2][4], "4"); // span 2 is still 5 m long
+    EXPECT_EQ(t.frames[2][0][0], "");
+    EXPECT_EQ(t.frames[2][1][0], "1");
+    EXPECT_EQ(t.frames[2][2][0], "7"); // not a span of the beam: the reading will say so
+    EXPECT_EQ(t.frames[3][0][0], "");
+}
+
 } // namespace
 } // namespace kvelder::test
