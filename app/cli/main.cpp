@@ -95,7 +95,7 @@ std::vector<Message> prepare(Model& m, const Options& o)
         throw Stop{kUsageError, "--data-dir " + data_dir.string() + ": no such folder"};
     }
     for (const DataFileNote& note : start_up(m, data_dir)) {
-        std::cerr << "kvelder-cli: " << message_line(data_file_message("Eng", note)) << '\n';
+        std::cerr << "kvelder-cli: " << message_line(data_file_message(m.language, note)) << '\n';
     }
     if (o.input) {
         read_description(m, *o.input);
