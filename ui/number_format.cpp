@@ -14,6 +14,13 @@ struct Decimal {
     int point = 0;
 };
 
+void set_zero(Decimal& d)
+{
+    d.digits.assign(1, '0');
+    d.point = 1;
+    d.negative = false; // no "-0.00"
+}
+
 // The shortest digits that read back to the value; to those of the single
 // when the value is one, so that a stored 1.005 rounds as 1.005 and not as
 // the 1.00499995 the single holds.
@@ -40,7 +47,7 @@ Decimal decimal_of(double value)
     }
     d.point = std::atoi(text.c_str() + e + 1) + 1;
     if (d.digits == "0") {
-        d.point = 1;
+        set_zero(d);
     }
     return d;
 }
@@ -52,8 +59,7 @@ void round_to(Decimal& d, int keep)
         return;
     }
     if (keep < 0) {
-        d.digits = "0";
-        d.point = 1;
+        set_zero(d);
         return;
     }
     const bool up = d.digits[static_cast<std::size_t>(keep)] >= '5';
@@ -71,9 +77,7 @@ void round_to(Decimal& d, int keep)
         }
     }
     if (d.digits.find_first_not_of('0') == std::string::npos) {
-        d.digits = "0";
-        d.point = 1;
-        d.negative = false;
+        set_zero(d);
     }
 }
 

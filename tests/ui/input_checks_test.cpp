@@ -105,6 +105,8 @@ TEST(NumberFormat, WritesThePatternsOfTheDisplay)
     EXPECT_EQ(format_number(-0.125, "0.00"), "-0.13");
     EXPECT_EQ(format_number(2.25, "0.0 "), "2.3 ");
     EXPECT_EQ(format_number(-0.001, "0.00"), "0.00");
+    EXPECT_EQ(format_number(-0.0001, "0.00"), "0.00");
+    EXPECT_EQ(format_number(-0.0, "0.0"), "0.0");
     EXPECT_EQ(format_number(3, " 0"), " 3");
     EXPECT_EQ(format_number(0, "#"), "");
     EXPECT_EQ(format_number(1.256e9, "0.000E+00"), "1.256E+09");
