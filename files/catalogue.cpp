@@ -43,6 +43,17 @@ float number_at(const std::vector<std::string>& columns, std::size_t c, std::int
     return TextToNumber(text, decimal_comma).value_or(0.0F);
 }
 
+// Names each field of a row that is not above 0.
+void require_positive(ReadNotes& notes, const std::string& row,
+                      std::initializer_list<std::pair<const char*, float>> fields)
+{
+    for (const auto& [name, value] : fields) {
+        if (!(value > 0)) {
+            notes.unusable.push_back(row + ": " + name);
+        }
+    }
+}
+
 } // namespace
 
 MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes)
@@ -59,6 +70,13 @@ MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_
         for (std::size_t k = 0; k < fields.size(); ++k) {
             *fields[k] = number_at(col, source[k], decimal_comma);
         }
+        require_positive(notes, row.name,
+                         {{"fm,k", row.fmk},
+                          {"fc,90,k", row.fc90k},
+                          {"fv,k", row.fvk},
+                          {"E0,mean", row.E0mean},
+                          {"E0,05", row.E005},
+                          {"density", row.density}});
     });
     return table;
 }
@@ -72,6 +90,7 @@ ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_co
         row.family_code = col[1];
         row.b = number_at(col, 3, decimal_comma);
         row.h = number_at(col, 4, decimal_comma);
+        require_positive(notes, row.name, {{"b", row.b}, {"h", row.h}});
     });
     return table;
 }

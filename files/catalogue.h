@@ -3,19 +3,24 @@
 #include "model/catalogues.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace kvelder {
 
 // What a reader noticed in a file that it read all the same.
 struct ReadNotes {
-    int rows_dropped = 0; // data rows beyond the table's last row
+    int rows_dropped = 0;              // data rows beyond the table's last row
+    std::vector<std::string> unusable; // "row: field" of values no calculation can take
 };
 
 // The catalogues from their text: 7 head lines, then one line a row; a line is
 // a data row when its third column starts with "S", and any other line is
 // skipped without using up a row. A column that is missing or no number leaves
-// its field at 0. Rows beyond the table are dropped and counted in the notes.
+// its field at 0. Rows beyond the table are dropped and counted in the notes,
+// and values that no calculation can take (a strength, modulus, density or
+// size of 0 or less) are named there.
 MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
 ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
 

@@ -36,14 +36,17 @@ void read_one(DataFile file, const std::filesystem::path& folder, std::vector<Da
     const std::optional<std::string> text = read_text_file(folder / file_name(file));
     ReadNotes read_notes;
     if (!text) {
-        notes.push_back({file, folder, DataFileNote::Kind::Missing});
+        notes.push_back({file, folder, DataFileNote::Kind::Missing, 0, {}});
     } else if (parse(*text, read_notes) > 0) {
         if (read_notes.rows_dropped > 0) {
-            notes.push_back({file, folder, DataFileNote::Kind::RowsDropped, read_notes.rows_dropped});
+            notes.push_back({file, folder, DataFileNote::Kind::RowsDropped, read_notes.rows_dropped, {}});
+        }
+        if (!read_notes.unusable.empty()) {
+            notes.push_back({file, folder, DataFileNote::Kind::UnusableValues, 0, read_notes.unusable});
         }
         return;
     } else {
-        notes.push_back({file, folder, DataFileNote::Kind::NoRows});
+        notes.push_back({file, folder, DataFileNote::Kind::NoRows, 0, {}});
     }
     ReadNotes ignored;
     parse(shipped(file), ignored);

@@ -3,6 +3,7 @@
 #include "model/model.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,13 +14,15 @@ enum class DataFile { Material, Profile, Setup };
 std::string_view file_name(DataFile file);
 
 // What went wrong with one data file. A missing or empty file is replaced by
-// the shipped copy; dropped rows beyond a table are only reported.
+// the shipped copy; dropped rows and unusable values are reported, and the
+// file is used as it is.
 struct DataFileNote {
-    enum class Kind { Missing, NoRows, RowsDropped };
+    enum class Kind { Missing, NoRows, RowsDropped, UnusableValues };
     DataFile file;
     std::filesystem::path folder;
     Kind kind;
-    int rows = 0; // rows dropped
+    int rows = 0;                      // rows dropped
+    std::vector<std::string> unusable; // "row: field"
 };
 
 // The folder of the user's data files. On Windows the fixed folder of the

@@ -134,14 +134,24 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
                    : Message{0, "Datafiler",
                              where + " har ingen datalinjer. Programmet bruker sin egen kopi av " + file +
                                  "."};
-    case DataFileNote::Kind::RowsDropped:
+    case DataFileNote::Kind::RowsDropped: {
+        const std::string rows = std::to_string(note.rows);
+        return eng ? Message{0, "Data files",
+                             where + " has more rows than the program holds; the last " + rows +
+                                 " are not read."}
+                   : Message{0, "Datafiler",
+                             where + " har flere linjer enn programmet tar; de siste " + rows +
+                                 " leses ikke."};
+    }
+    case DataFileNote::Kind::UnusableValues:
         break;
     }
-    const std::string rows = std::to_string(note.rows);
-    return eng ? Message{0, "Data files",
-                         where + " has more rows than the program holds; the last " + rows + " are not read."}
-               : Message{0, "Datafiler",
-                         where + " har flere linjer enn programmet tar; de siste " + rows + " leses ikke."};
+    std::string list;
+    for (const std::string& item : note.unusable) {
+        list += (list.empty() ? "" : "; ") + item;
+    }
+    return eng ? Message{0, "Data files", where + " holds values that no calculation can use: " + list + "."}
+               : Message{0, "Datafiler", where + " har verdier som ingen beregning kan bruke: " + list + "."};
 }
 
 } // namespace kvelder

@@ -8,6 +8,7 @@
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "tests/support/beams.h"
+#include "ui/messages.h"
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,23 @@ TEST(Catalogue, ACommaRowReadsAsAPointRowAndShortRowsKeepZeros)
     EXPECT_EQ(point, comma);
     EXPECT_EQ(point.rows[0].fvk, 3.5F);
     EXPECT_EQ(point.rows[0].E0mean, 0.0F);
+}
+
+TEST(DataFiles, ValuesNoCalculationCanUseAreNamedAndTheFileIsKept)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_unusable";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Material.csv")
+        << kSevenHeadLines << "C24;;S;24;14.5;2.5;0;11000;7400;350;420;0\n";
+    std::ofstream(folder / "Kveldersetup.csv") << "1\n2\nL;Eng\nR;0\n5\n6\n"
+                                                  "Nor;;0.1;1.15;1.2;1.2;0.67;0.67;1;1;False;2;9;5;3;3;\n";
+    Model m;
+    const std::vector<DataFileNote> notes = ReadDataFiles(m, folder);
+    ASSERT_EQ(notes.size(), 3U); // the profile catalogue is missing
+    EXPECT_EQ(notes[0].unusable, (std::vector<std::string>{"Nor: gamma_M timber", "Nor: psi0 of Q1"}));
+    EXPECT_EQ(notes[1].unusable, (std::vector<std::string>{"C24: fv,k"}));
+    EXPECT_EQ(m.material_table.rows[0].name, "C24"); // kept as it is
+    EXPECT_NE(data_file_message("Eng", notes[1]).text.find("C24: fv,k"), std::string::npos);
 }
 
 TEST(Catalogue, RowsBeyondTheTableAreDroppedAndCounted)
@@ -95,8 +113,10 @@ TEST(DataFiles, AShortCatalogueStartsTheExampleBeamOnRowsItHas)
 {
     const std::filesystem::path folder = scratch_folder() / "data_short";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "EC5Material.csv") << kSevenHeadLines << "C24;;S;24;14.5;2.5;4;11000;7400;350;420;0\n";
-    std::ofstream(folder / "EC5Profile.csv") << kSevenHeadLines << "a;L;S;90;180\nb;L;S;90;225\nc;L;S;90;270\n";
+    std::ofstream(folder / "EC5Material.csv")
+        << kSevenHeadLines << "C24;;S;24;14.5;2.5;4;11000;7400;350;420;0\n";
+    std::ofstream(folder / "EC5Profile.csv")
+        << kSevenHeadLines << "a;L;S;90;180\nb;L;S;90;225\nc;L;S;90;270\n";
     Model m;
     start_up(m, folder);
     EXPECT_EQ(m.material_row, 0);
