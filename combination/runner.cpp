@@ -200,19 +200,19 @@ void run_patterns(Model& m, ScratchFiles& trace)
     G_forces(m);
     G_deflections(m);
     solve_current_case(m);
-    const auto G = std::make_unique<SolvedCase>(m);
+    const auto G_case = std::make_unique<SolvedCase>(m);
     clear_case(m);
     add_variable_group(m, Q2_forces, Q2_deflections);
     solve_current_case(m);
-    const auto Q2 = std::make_unique<SolvedCase>(m);
-    const std::vector<SpanLoads> Q1 = Q1_by_span(m);
+    const auto Q2_case = std::make_unique<SolvedCase>(m);
+    const std::vector<SpanLoads> Q1_spans = Q1_by_span(m);
 
     for (int p = 1; p <= m.npatterns; ++p) {
         clear_combination(m);
-        fold_case(m, G->view(), LoadCase::Egen, p, trace);
-        fold_case(m, Q2->view(), LoadCase::Nytt_2, p, trace);
+        fold_case(m, G_case->view(), LoadCase::Egen, p, trace);
+        fold_case(m, Q2_case->view(), LoadCase::Nytt_2, p, trace);
         if (p > 1) {
-            put_Q1(m, Q1, Q1_pattern(m.nf, p));
+            put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
             solve_current_case(m);
             fold_case(m, current_case(m), LoadCase::Nytt, p, trace);
         }
