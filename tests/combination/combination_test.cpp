@@ -132,7 +132,7 @@ TEST(Envelopes, TotalRunCopiesItsOneCombination)
 TEST(Envelopes, PatternedEnvelopeCoversTheWorstPlacementOfQ1)
 {
     // The largest support moment over support 2 of three spans needs Q1 on spans 1 and 2,
-    // the largest sagging in span 2 needs it on span 2 alone.
+    // the largest sagging and deflection in span 2 need it on span 2 alone.
     auto m = make_beam({5.0F, 5.0F, 5.0F});
     m->loadcomb_option = 2;
     for (int i = 1; i <= 3; ++i) {
@@ -156,7 +156,29 @@ TEST(Envelopes, PatternedEnvelopeCoversTheWorstPlacementOfQ1)
     EXPECT_EQ(m->M_max(1, 2), spans_1_2->M_max(1, 2));
     const int mid = 3 + 24;
     EXPECT_EQ(m->M_min(2, mid), span_2->M_min(2, mid));
+    EXPECT_EQ(m->W_min(2, mid), span_2->W_min(2, mid)); // and so the largest deflection there
+    EXPECT_LT(m->W_min(2, mid), 0.0F);
     EXPECT_GT(m->M_max(1, 2), 0.0F);
+}
+
+TEST(Envelopes, AQ1MomentOnASupportActsInThePatternsOfItsSpan)
+{
+    // A moment at the end of span 1 stands on node 2: only the patterns that load
+    // span 1 carry it, and the other patterns add nothing to the envelope.
+    const auto beam = [](int option) {
+        auto m = make_beam({4.0F, 6.0F});
+        m->loadcomb_option = static_cast<std::int16_t>(option);
+        add_moment(m->Q1, 1, 8.0F, 4.0F);
+        recalculate(*m);
+        return m;
+    };
+    const auto patterned = beam(2);
+    const auto total = beam(1);
+    EXPECT_EQ(patterned->npatterns, 4);
+    EXPECT_EQ(patterned->M_max, total->M_max);
+    EXPECT_EQ(patterned->M_min, total->M_min);
+    EXPECT_EQ(patterned->W_min, total->W_min);
+    EXPECT_NE(total->M_max(1, 2), 0.0F);
 }
 
 } // namespace
