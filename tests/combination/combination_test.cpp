@@ -181,5 +181,23 @@ TEST(Envelopes, AQ1MomentOnASupportActsInThePatternsOfItsSpan)
     EXPECT_NE(total->M_max(1, 2), 0.0F);
 }
 
+TEST(Envelopes, WithoutVariableLoadsEveryPatternCarriesTheReactionsOfG)
+{
+    const auto beam = [](int option) {
+        auto m = make_beam({4.0F, 6.0F}, kBuiltIn, kSimple);
+        m->loadcomb_option = static_cast<std::int16_t>(option);
+        add_uniform(m->G, 1, 3.0F);
+        add_point(m->G, 2, 5.0F, 2.0F);
+        recalculate(*m);
+        return m;
+    };
+    const auto patterned = beam(2);
+    const auto total = beam(1);
+    EXPECT_EQ(patterned->R_max, total->R_max);
+    EXPECT_EQ(patterned->MR_max, total->MR_max);
+    EXPECT_EQ(patterned->MR_min, total->MR_min);
+    EXPECT_NE(total->MR_max(1) - total->MR_min(1), 0.0F); // the built-in end holds a moment
+}
+
 } // namespace
 } // namespace kvelder::test
