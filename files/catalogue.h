@@ -12,14 +12,14 @@ namespace kvelder {
 // What a reader noticed in a file that it read all the same.
 struct ReadNotes {
     int rows_dropped = 0;              // data rows beyond the table's last row
-    std::vector<std::string> unusable; // "row: field" of values no calculation can take
+    std::vector<std::string> unusable; // "row: field" of values outside what the program accepts
 };
 
 // The catalogues from their text: 7 head lines, then one line a row; a line is
 // a data row when its third column starts with "S", and any other line is
 // skipped without using up a row. A column that is missing or no number leaves
 // its field at 0. Rows beyond the table are dropped and counted in the notes,
-// and values that no calculation can take (a strength, modulus, density or
+// and values that the program does not accept (a strength, modulus, density or
 // size of 0 or less) are named there.
 MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
 ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);

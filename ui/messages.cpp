@@ -150,8 +150,12 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
     for (const std::string& item : note.unusable) {
         list += (list.empty() ? "" : "; ") + item;
     }
-    return eng ? Message{0, "Data files", where + " holds values that no calculation can use: " + list + "."}
-               : Message{0, "Datafiler", where + " har verdier som ingen beregning kan bruke: " + list + "."};
+    return eng ? Message{0, "Data files",
+                         where + " holds values outside what the program accepts: " + list +
+                             ". Results that use them cannot be trusted."}
+               : Message{0, "Datafiler",
+                         where + " har verdier utenfor det programmet godtar: " + list +
+                             ". Resultater som bruker dem kan ikke stoles p\u00e5."};
 }
 
 } // namespace kvelder
