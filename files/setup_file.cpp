@@ -1,11 +1,12 @@
 #include "files/setup_file.h"
 
+#include "files/replace_file.h"
 #include "files/text_lines.h"
 #include "files/text_number.h"
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
+#include <span>
 #include <system_error>
 
 namespace kvelder {
@@ -169,28 +170,8 @@ std::string SetupFileText(const FileDatabase& db, std::int16_t decimal_comma)
 
 bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const std::filesystem::path& path)
 {
-    std::filesystem::path partial = path;
-    partial += ".new";
-    {
-        std::ofstream out(partial, std::ios::binary | std::ios::trunc);
-        if (!out) {
-            return false;
-        }
-        out << SetupFileText(db, decimal_comma);
-        out.close();
-        if (!out) {
-            std::error_code ignored;
-            std::filesystem::remove(partial, ignored);
-            return false;
-        }
-    }
-    std::error_code ec;
-    std::filesystem::rename(partial, path, ec);
-    if (ec) {
-        std::filesystem::remove(partial, ec);
-        return false;
-    }
-    return true;
+    const std::string text = SetupFileText(db, decimal_comma);
+    return !replace_file(path, std::as_bytes(std::span(text.data(), text.size())));
 }
 
 void ApplySetupRow(Model& m)
@@ -231,7 +212,11 @@ void ApplySetupRow(Model& m)
 
 void StoreSetupRow(Model& m)
 {
-    FileDatabase& db = m.setup;
+    StoreSetupRow(m, m.setup);
+}
+
+void StoreSetupRow(const Model& m, FileDatabase& db)
+{
     db.setup_language = m.language;
     if (db.setup_row < 0 || db.setup_row > db.setup_last_row) {
         return;

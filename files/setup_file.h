@@ -30,5 +30,7 @@ void ApplySetupRow(Model& m);
 
 // From the active factors back to the selected row of the setup in the model.
 void StoreSetupRow(Model& m);
+// The same into another copy of the setup.
+void StoreSetupRow(const Model& m, FileDatabase& db);
 
 } // namespace kvelder

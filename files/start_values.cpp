@@ -68,6 +68,13 @@ void StartSection(Model& m)
     }
 }
 
+void NewProjectHeading(Model& m)
+{
+    const bool eng = m.setup.setup_language == "Eng";
+    m.prosjekt_s = eng ? "Project 1" : "Prosjekt 1";
+    m.id_s = eng ? "Beam 1" : "Bjelk 1";
+}
+
 std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder)
 {
     m.decimal_comma = DecimalProbe();
@@ -77,6 +84,7 @@ std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_f
     StartBeam(m);
     StartLoads(m);
     StartSection(m);
+    NewProjectHeading(m);
     m.nf_previous = m.nf;
     build_calculation_grids(m);
     return notes;

@@ -16,6 +16,10 @@ void StartBeam(Model& m);
 void StartLoads(Model& m);
 void StartSection(Model& m);
 
+// The project text and beam identification of a new project, in the language
+// of the setup.
+void NewProjectHeading(Model& m);
+
 // The start of the program without its window: the decimal separator, the
 // setup and the catalogues of `data_folder`, the example beam and its grids.
 // The model is left ready for its first recalculation, with loading_flag set.

@@ -25,6 +25,10 @@ constexpr char kBuiltIn = 'I';
 // Every table is 1-based. Units along the beam are m, kN, kN/m and kNm; E in
 // kN/m2 and I in m4 for the stiffness work; deflections in mm.
 struct Model {
+    // --- Heading ---------------------------------------------------------------------
+    std::string prosjekt_s; // project text
+    std::string id_s;       // beam identification
+
     // --- Geometry and supports -------------------------------------------------
     std::int16_t nf = 1;           // number of spans, 1..5
     std::int16_t nf_previous = 1;  // span count of the last finished recalculation

@@ -1,5 +1,7 @@
 #include "ui/messages.h"
 
+#include "files/project_file.h"
+
 #include <array>
 
 namespace kvelder {
@@ -156,6 +158,31 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
                : Message{0, "Datafiler",
                          where + " har verdier utenfor det programmet godtar: " + list +
                              ". Resultater som bruker dem kan ikke stoles p\u00e5."};
+}
+
+Message project_message(const std::string& language, const ProjectFailure& failure)
+{
+    const bool eng = language == "Eng";
+    const std::string path = failure.path.string();
+    const std::string detail = failure.detail.empty() ? "" : " (" + failure.detail + ")";
+    switch (failure.kind) {
+    case ProjectFailure::Kind::FileNotFound:
+        return Message{0, "", " Can't find file "};
+    case ProjectFailure::Kind::PathNotFound:
+        return Message{0, "", " Path not found "};
+    case ProjectFailure::Kind::NotAProject:
+        return Message{0, "", std::string("Input file not compatible with Ferrelt") + " Version  " + "1.3.0"};
+    case ProjectFailure::Kind::Unreadable:
+        return eng ? Message{0, "", "Can't read " + path + detail}
+                   : Message{0, "", "Kan ikke lese " + path + detail};
+    case ProjectFailure::Kind::Unwritable:
+        return eng ? Message{0, "", "Can't save " + path + detail + ". The file on disk is unchanged."}
+                   : Message{0, "", "Kan ikke lagre " + path + detail + ". Filen p\u00e5 disken er uendret."};
+    case ProjectFailure::Kind::TooLong:
+        break;
+    }
+    return eng ? Message{0, "", "Can't save " + path + ": " + failure.detail + "."}
+               : Message{0, "", "Kan ikke lagre " + path + ": en tekst er for lang for prosjektfilen."};
 }
 
 } // namespace kvelder

@@ -7,6 +7,8 @@
 
 namespace kvelder {
 
+struct ProjectFailure;
+
 // One message box: its number (0 for the messages that have none), title and text.
 struct Message {
     int code = 0;
@@ -28,5 +30,9 @@ Message supports_unstable(const std::string& language);
 
 // What became of a data file that could not be used as it stands.
 Message data_file_message(const std::string& language, const DataFileNote& note);
+
+// Why a project could not be opened or saved. The three failures that every
+// version of the program has reported keep their words in both languages.
+Message project_message(const std::string& language, const ProjectFailure& failure);
 
 } // namespace kvelder

@@ -23,8 +23,8 @@ using nlohmann::json;
 
 // The keys of a beam description: the model's own names.
 // clang-format off
-constexpr std::array<std::string_view, 35> kKeys = {
-    "language", "annex", "setup_row", "nf", "ffl_s", "nsupLeft_s", "nsupRight_s", "loadcomb_option",
+constexpr std::array<std::string_view, 37> kKeys = {
+    "prosjekt_s", "id_s", "language", "annex", "setup_row", "nf", "ffl_s", "nsupLeft_s", "nsupRight_s", "loadcomb_option",
     "comb_rule", "profile_weight_on", "G", "Q1", "Q2", "material_row", "material", "prof_type_index",
     "prof_index", "section_form", "section_b", "section_h", "section_d", "duration_class", "service_class",
     "ksys", "safety_class", "psi0_1", "psi0_2", "psi2_1", "psi2_2", "vipping_off", "l_stag", "lef_factor",
@@ -360,6 +360,14 @@ void apply_description(Model& m, const json& d)
     for (const auto& [key, value] : d.items()) {
         if (std::find(kKeys.begin(), kKeys.end(), key) == kKeys.end()) {
             fail(key, "is not a key of a beam description");
+        }
+    }
+    for (const char* key : {"prosjekt_s", "id_s"}) {
+        if (d.contains(key)) {
+            if (!d[key].is_string()) {
+                fail(key, "must be a text");
+            }
+            (key[0] == 'p' ? m.prosjekt_s : m.id_s) = d[key].get<std::string>();
         }
     }
     select_setup_row(m, d);

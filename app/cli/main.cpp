@@ -1,9 +1,11 @@
 // kvelder-cli: the calculation without the window, for scripts and for tests.
 
 #include "app/cli/beam_description.h"
+#include "app/cli/beam_dump.h"
 #include "app/cli/options.h"
 #include "app/cli/result_json.h"
 #include "app/cli/result_text.h"
+#include "files/project_file.h"
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "model/main_calc.h"
@@ -41,9 +43,6 @@ fs::path installed_data_dir()
 
 void read_description(Model& m, const fs::path& input)
 {
-    if (input.extension() != ".json") {
-        throw Stop{kUsageError, input.string() + ": only beam descriptions (.json) can be read"};
-    }
     const std::optional<std::string> text = read_text_file(input);
     if (!text) {
         throw Stop{kUsageError, input.string() + ": cannot be read"};
@@ -61,9 +60,28 @@ void read_description(Model& m, const fs::path& input)
     }
 }
 
+std::string trimmed(const std::string& text)
+{
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 std::string message_line(const Message& msg)
 {
     return msg.title.empty() ? msg.text : msg.title + ": " + msg.text;
+}
+
+void read_project(Model& m, const fs::path& input)
+{
+    LoadDialogs dialogs;
+    if (const auto failed = ReadProject(m, input, dialogs)) {
+        std::string line = input.string() + ": " + trimmed(project_message(m.language, *failed).text);
+        if (failed->kind == ProjectFailure::Kind::NotAProject) {
+            line += " (" + failed->detail + ")";
+        }
+        throw Stop{kUsageError, line};
+    }
 }
 
 const char* group_name(LoadGroupId id)
@@ -97,7 +115,9 @@ std::vector<Message> prepare(Model& m, const Options& o)
     for (const DataFileNote& note : start_up(m, data_dir)) {
         std::cerr << "kvelder-cli: " << message_line(data_file_message(m.language, note)) << '\n';
     }
-    if (o.input) {
+    if (o.input && is_project(*o.input)) {
+        read_project(m, *o.input);
+    } else if (o.input) {
         read_description(m, *o.input);
     }
     return check_all_boxes(m);
@@ -145,6 +165,54 @@ int calc(const Options& o)
     return kCalculated;
 }
 
+int save(const Options& o)
+{
+    auto m = std::make_unique<Model>();
+    std::vector<Message> messages = prepare(*m, o);
+    // The factors of the last recalculation travel in the file, as when the
+    // window saves.
+    if (!messages.empty() || !calculate(*m, messages)) {
+        std::cerr << "kvelder-cli: the beam fails its checks; " << o.output->string() << " is not written\n";
+        return report_failure(messages);
+    }
+    if (const auto failed = WriteProject(*m, *o.output)) {
+        throw Stop{kUsageError, project_message(m->language, *failed).text};
+    }
+    return kCalculated;
+}
+
+// Names the data the project carries that differs from the data folder's:
+// a description of the beam refers to the folder's rows.
+void note_own_data(const Model& folder, const Model& project)
+{
+    const auto note = [](const char* what) {
+        std::cerr << "kvelder-cli: the project carries its own " << what
+                  << "; the description refers to the rows of the data folder's\n";
+    };
+    if (folder.material_table != project.material_table) {
+        note("material catalogue");
+    }
+    if (folder.profile_table != project.profile_table) {
+        note("profile catalogue");
+    }
+    if (folder.setup.setup_table != project.setup.setup_table) {
+        note("setup table");
+    }
+}
+
+int dump(const Options& o)
+{
+    auto m = std::make_unique<Model>();
+    Options start_only = o;
+    start_only.input.reset();
+    prepare(*m, start_only);
+    const auto folder = std::make_unique<Model>(*m);
+    read_project(*m, *o.input);
+    note_own_data(*folder, *m);
+    std::cout << cli::describe_beam(*m).dump(2) << '\n';
+    return kCalculated;
+}
+
 int bench(const Options& o)
 {
     auto m = std::make_unique<Model>();
@@ -176,6 +244,12 @@ int main(int argc, char** argv)
 {
     try {
         const Options o = parse(std::vector<std::string>(argv + 1, argv + argc));
+        if (o.command == "save") {
+            return save(o);
+        }
+        if (o.command == "dump") {
+            return dump(o);
+        }
         return o.command == "calc" ? calc(o) : bench(o);
     } catch (const Stop& stop) {
         if (stop.line.empty()) {

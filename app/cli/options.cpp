@@ -1,12 +1,58 @@
 #include "app/cli/options.h"
 
+#include <algorithm>
+#include <cctype>
 #include <stdexcept>
 
 namespace kvelder::cli {
 
 const char* const kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--text]\n"
+                           "       kvelder-cli save [BEAM.json] -o FILE.kvel [--data-dir DIR]\n"
+                           "       kvelder-cli dump FILE.kvel [--data-dir DIR]\n"
                            "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
-                           "INPUT is a beam description (.json); without it the example beam is used.\n";
+                           "INPUT is a beam description (.json) or a project file (.kvel); without it the\n"
+                           "example beam is used. save writes the beam as a project file, dump writes a\n"
+                           "project file as a beam description.\n";
+
+namespace {
+
+bool has_extension(const std::filesystem::path& path, std::string_view extension)
+{
+    std::string e = path.extension().string();
+    std::transform(e.begin(), e.end(), e.begin(), [](unsigned char c) { return std::tolower(c); });
+    return e == extension;
+}
+
+void check_input(const Options& o)
+{
+    if (o.command == "dump" && (!o.input || !is_project(*o.input))) {
+        throw Stop{kUsageError, "dump needs a project file (.kvel)"};
+    }
+    if (o.command == "save") {
+        if (!o.output || !is_project(*o.output)) {
+            throw Stop{kUsageError, "save needs -o and a project file name ending in .kvel"};
+        }
+        if (o.input && !is_description(*o.input)) {
+            throw Stop{kUsageError, o.input->string() + ": save reads beam descriptions (.json) only"};
+        }
+    }
+    if (o.input && !is_description(*o.input) && !is_project(*o.input)) {
+        throw Stop{kUsageError, o.input->string() +
+                                    ": only beam descriptions (.json) and project files (.kvel) can be read"};
+    }
+}
+
+} // namespace
+
+bool is_project(const std::filesystem::path& path)
+{
+    return has_extension(path, ".kvel");
+}
+
+bool is_description(const std::filesystem::path& path)
+{
+    return has_extension(path, ".json");
+}
 
 Options parse(const std::vector<std::string>& args)
 {
@@ -15,7 +61,7 @@ Options parse(const std::vector<std::string>& args)
     }
     Options o;
     o.command = args[0];
-    if (o.command != "calc" && o.command != "bench") {
+    if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "bench") {
         throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
     }
     for (std::size_t k = 1; k < args.size(); ++k) {
@@ -30,6 +76,8 @@ Options parse(const std::vector<std::string>& args)
             o.data_dir = std::filesystem::path(value());
         } else if (a == "--text" && o.command == "calc") {
             o.text = true;
+        } else if (a == "-o" && o.command == "save") {
+            o.output = std::filesystem::path(value());
         } else if (a == "-n" && o.command == "bench") {
             const std::string& n = value();
             try {
@@ -49,6 +97,7 @@ Options parse(const std::vector<std::string>& args)
             o.input = std::filesystem::path(a);
         }
     }
+    check_input(o);
     return o;
 }
 

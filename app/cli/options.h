@@ -22,12 +22,17 @@ struct Stop {
 };
 
 struct Options {
-    std::string command; // "calc" or "bench"
+    std::string command; // "calc", "save", "dump" or "bench"
     std::optional<std::filesystem::path> input;
+    std::optional<std::filesystem::path> output; // the project file of "save"
     std::optional<std::filesystem::path> data_dir;
     bool text = false;
     int runs = 1000;
 };
+
+// The kinds of input the tool reads, by the extension of the file.
+bool is_project(const std::filesystem::path& path);
+bool is_description(const std::filesystem::path& path);
 
 // The command line after the program's name; throws Stop when it cannot be used.
 Options parse(const std::vector<std::string>& args);

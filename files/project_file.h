@@ -1,0 +1,44 @@
+#pragma once
+
+#include "files/project_model.h"
+#include "model/model.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace kvelder {
+
+// Why a project could not be opened or saved.
+struct ProjectFailure {
+    enum class Kind {
+        FileNotFound, // no file of that name
+        PathNotFound, // no folder of that name
+        NotAProject,  // the bytes are no project (detail says where and why)
+        Unreadable,   // there, but it cannot be read
+        Unwritable,   // the new file could not be written; the old one stands
+        TooLong,      // a text is too long for the file (detail names it)
+    };
+    Kind kind;
+    std::filesystem::path path;
+    std::string detail;
+};
+
+// Opens a project: the whole file is read and checked before anything of it
+// is used, so on failure the model, its catalogues and setup, and `dialogs` are
+// exactly as they were. On success the catalogues and setup of the file replace
+// those of the model and the beam follows (see ModelFromRecord). A span of no
+// length or supports that cannot carry the beam raise their flags, so the next
+// recalculation stops at its gate; loading_flag is left set for that run to clear.
+std::optional<ProjectFailure> ReadProject(Model& m, const std::filesystem::path& path, LoadDialogs& dialogs);
+
+// Saves the project in one step: the file on disk is either the old one or the
+// whole new one. Two saves of the same beam give the same bytes. On success the
+// active factors are kept in the setup row and the interior nodes are simple
+// supports, as the file says; on failure the model is untouched.
+std::optional<ProjectFailure> WriteProject(Model& m, const std::filesystem::path& path);
+
+// The bytes a save of the beam writes.
+std::vector<std::byte> project_bytes(const Model& m);
+
+} // namespace kvelder

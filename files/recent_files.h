@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kvelder {
+
+// The per-user settings that keep the recent files: section "Recent Files",
+// keys "RecentFile1" (newest) to "RecentFile4". An empty text is no value.
+class RecentFileStore {
+public:
+    virtual ~RecentFileStore() = default;
+    virtual std::string value(int number) const = 0;
+    virtual void set_value(int number, const std::string& path) = 0;
+};
+
+constexpr int kRecentFiles = 4;
+
+// The captions of the recent-file menu items, "1. " and the path, newest first;
+// none while the first key has no value.
+std::vector<std::string> ShowRecentFiles(const RecentFileStore& store);
+
+// The path of a menu item's caption.
+std::string recent_file_path(const std::string& caption);
+
+// After a save under a new name: the list moves down one and the path goes in
+// front. A path already in the list is not looked for.
+void AddRecentFile(RecentFileStore& store, const std::string& path);
+
+// After opening: a path in the list comes to the front, the entries before it
+// moving down one; a new path goes in front and the fourth entry drops out.
+void MoveRecentFile(RecentFileStore& store, const std::string& path);
+
+} // namespace kvelder
