@@ -75,11 +75,19 @@ std::optional<ProjectFailure> ReadProject(Model& m, const fs::path& path, LoadDi
     if (auto failed = read_bytes(path, bytes)) {
         return failed;
     }
+    if (auto why = ReadProjectBytes(m, bytes, dialogs)) {
+        return failure(ProjectFailure::Kind::NotAProject, path, std::move(*why));
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> ReadProjectBytes(Model& m, std::span<const std::byte> bytes, LoadDialogs& dialogs)
+{
     ProjectFile file;
     try {
         file = decode_project(bytes);
     } catch (const NotAProject& e) {
-        return failure(ProjectFailure::Kind::NotAProject, path, e.what());
+        return e.what();
     }
     ModelFromRecord(m, file, dialogs);
     SectionFromRecord(m, file);

@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace kvelder {
 
@@ -31,6 +33,9 @@ struct ProjectFailure {
 // length or supports that cannot carry the beam raise their flags, so the next
 // recalculation stops at its gate; loading_flag is left set for that run to clear.
 std::optional<ProjectFailure> ReadProject(Model& m, const std::filesystem::path& path, LoadDialogs& dialogs);
+
+// The same from the bytes of a file; why they are no project, if they are not.
+std::optional<std::string> ReadProjectBytes(Model& m, std::span<const std::byte> bytes, LoadDialogs& dialogs);
 
 // Saves the project in one step: the file on disk is either the old one or the
 // whole new one. Two saves of the same beam give the same bytes. On success the

@@ -195,7 +195,14 @@ void note_own_data(const Model& folder, const Model& project)
     if (folder.profile_table != project.profile_table) {
         note("profile catalogue");
     }
-    if (folder.setup.setup_table != project.setup.setup_table) {
+    // The classes and psi values of the selected row are in the description.
+    const auto factors_only = [](FileDatabase db) {
+        for (SetupRow& r : db.setup_table) {
+            r.safety_class = r.psi0_1_index = r.psi0_2_index = r.psi2_1_index = r.psi2_2_index = 0;
+        }
+        return db.setup_table;
+    };
+    if (factors_only(folder.setup) != factors_only(project.setup)) {
         note("setup table");
     }
 }

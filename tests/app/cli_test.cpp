@@ -175,7 +175,7 @@ TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
 TEST(CliCalc, UsageAndFileErrorsExitTwo)
 {
     for (const char* args : {"", "draw", "calc --colour", "calc a.json b.json", "calc /no/such/beam.json",
-                             "calc beam.kvel", "bench -n 0", "calc --data-dir /no/such/folder"}) {
+                             "calc beam.txt", "bench -n 0", "calc --data-dir /no/such/folder"}) {
         const CliRun r = run(args);
         EXPECT_EQ(r.exit, 2) << args;
         EXPECT_FALSE(r.err.empty()) << args;
@@ -207,6 +207,108 @@ TEST(CliOutput, TextAndBench)
     EXPECT_EQ(line["runs"], 5);
     EXPECT_GT(line["median_us"].get<double>(), 0);
     EXPECT_LE(line["min_us"].get<double>(), line["median_us"].get<double>());
+}
+
+// A beam with loads in every table but the moment rows of Q1 and Q2, whose
+// span numbers a project file does not give back to the model.
+constexpr const char* kProjectBeam = R"({
+  "prosjekt_s": "Lager \u00c5s", "id_s": "B3",
+  "nf": 3, "ffl_s": [4.0, 5.5, 3.2], "nsupLeft_s": "I", "nsupRight_s": "F",
+  "comb_rule": "610b", "loadcomb_option": 2, "profile_weight_on": true,
+  "G": {"uni": [[1, 2.5], [3, 1.5]], "trap": [[2, 1.0, 2.0, 0.5, 3.5]], "pt": [[1, 10.0, 2.0]],
+        "mom": [[3, 5.0, 1.0]]},
+  "Q1": {"uni": [[2, 4.0]], "trap": [[1, 3.0, 0.0, 0.0, 4.0]], "pt": [[3, 7.5, 3.0], [1, 2.0, 1.0]]},
+  "Q2": {"uni": [[3, 0.75]], "pt": [[2, 4.0, 2.0]]},
+  "material": "GL28c", "prof_type_index": 1, "prof_index": 40,
+  "duration_class": 2, "service_class": 2, "ksys": 1.1, "psi0_1": 0.5, "safety_class": 3,
+  "vipping_off": false, "l_stag": [2.0, 2.5, 3.2], "lef_factor": [0.9, 1.0, 0.8], "load_location": 1
+})";
+
+TEST(CliProject, ASavedBeamRecalculatesAndDumpsToTheSameBeam)
+{
+    const std::string beam = description("project_beam.json", kProjectBeam);
+    const fs::path project = scratch_folder() / "project_beam.kvel";
+    const CliRun saved = run("save " + beam + " -o '" + project.string() + "'");
+    ASSERT_EQ(saved.exit, 0) << saved.err;
+
+    const CliRun from_description = run("calc " + beam);
+    ASSERT_EQ(from_description.exit, 0) << from_description.err;
+    const CliRun from_project = run("calc '" + project.string() + "'");
+    ASSERT_EQ(from_project.exit, 0) << from_project.err;
+    EXPECT_EQ(json::parse(from_project.out), json::parse(from_description.out));
+
+    const CliRun dumped = run("dump '" + project.string() + "'");
+    ASSERT_EQ(dumped.exit, 0) << dumped.err;
+    EXPECT_TRUE(dumped.err.empty()) << dumped.err; // same data folder, nothing to note
+    const json back = json::parse(dumped.out);
+    const json given = json::parse(kProjectBeam);
+    for (const auto& [key, value] : given.items()) {
+        if (key == "material") {
+            EXPECT_EQ(back["material_row"], 23) << "GL28c is row 23 of the shipped catalogue";
+        } else {
+            EXPECT_EQ(back[key], value) << key;
+        }
+    }
+    const CliRun from_dump = run("calc " + description("dumped.json", dumped.out));
+    ASSERT_EQ(from_dump.exit, 0) << from_dump.err;
+    EXPECT_EQ(json::parse(from_dump.out), json::parse(from_description.out));
+
+    // A catalogue edited after saving changes nothing of the project, and the
+    // dump says that its description refers to the edited one.
+    const fs::path edited = scratch_folder() / "edited_data";
+    fs::create_directories(edited);
+    for (const char* file : {"EC5Profile.csv", "Kveldersetup.csv"}) {
+        fs::copy_file(source_data_dir() / file, edited / file, fs::copy_options::overwrite_existing);
+    }
+    std::ifstream in(source_data_dir() / "EC5Material.csv", std::ios::binary);
+    std::string materials((std::istreambuf_iterator<char>(in)), {});
+    materials.replace(materials.find("GL28c;EN 14080;S;28"), 19, "GL28c;EN 14080;S;31");
+    std::ofstream(edited / "EC5Material.csv", std::ios::binary) << materials;
+    const std::string edited_dir = " --data-dir '" + edited.string() + "'";
+    const CliRun with_edited = run("calc '" + project.string() + "'" + edited_dir);
+    EXPECT_EQ(json::parse(with_edited.out), json::parse(from_description.out));
+    const CliRun noted = run("dump '" + project.string() + "'" + edited_dir);
+    EXPECT_NE(noted.err.find("its own material catalogue"), std::string::npos) << noted.err;
+
+    // The example beam without a description, and two saves give the same bytes.
+    const fs::path a = scratch_folder() / "a.kvel", b = scratch_folder() / "b.kvel";
+    ASSERT_EQ(run("save -o '" + a.string() + "'").exit, 0);
+    ASSERT_EQ(run("save -o '" + b.string() + "'").exit, 0);
+    std::ifstream fa(a, std::ios::binary), fb(b, std::ios::binary);
+    EXPECT_TRUE(std::equal(std::istreambuf_iterator<char>(fa), {}, std::istreambuf_iterator<char>(fb), {}));
+}
+
+TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
+{
+    const fs::path garbage = scratch_folder() / "garbage.kvel";
+    std::ofstream(garbage) << "not a project at all";
+    CliRun r = run("calc '" + garbage.string() + "'");
+    EXPECT_EQ(r.exit, 2);
+    EXPECT_NE(r.err.find("Input file not compatible with Ferrelt Version  1.3.0 (the file ends"),
+              std::string::npos)
+        << r.err;
+
+    r = run("dump /no/such/folder/a.kvel");
+    EXPECT_EQ(r.exit, 2);
+    EXPECT_NE(r.err.find("Path not found"), std::string::npos) << r.err;
+    r = run("calc '" + (scratch_folder() / "absent.kvel").string() + "'");
+    EXPECT_NE(r.err.find("Can't find file"), std::string::npos) << r.err;
+
+    for (const char* args :
+         {"save", "save -o beam.json", "dump", "dump beam.json", "save a.kvel -o b.kvel"}) {
+        EXPECT_EQ(run(args).exit, 2) << args;
+    }
+
+    r = run("save -o /no/such/folder/x.kvel");
+    EXPECT_EQ(r.exit, 2);
+    EXPECT_NE(r.err.find("Can't save /no/such/folder/x.kvel"), std::string::npos) << r.err;
+
+    // A beam that fails its checks is not saved.
+    const fs::path refused = scratch_folder() / "refused.kvel";
+    r = run("save " + description("zero.json", R"({"nf": 2, "ffl_s": [5.0, 0.0]})") + " -o '" +
+            refused.string() + "'");
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_FALSE(fs::exists(refused));
 }
 
 } // namespace

@@ -119,4 +119,38 @@ std::unique_ptr<Model> example_beam()
     return m;
 }
 
+std::unique_ptr<Model> loaded_beam()
+{
+    auto m = example_beam();
+    set_span_count(*m, 3);
+    m->ffl_s(1) = 4.0F, m->ffl_s(2) = 5.0F, m->ffl_s(3) = 6.0F;
+    m->nsupLeft_s = m->support_kind(1) = kBuiltIn;
+    m->nsupRight_s = m->support_kind(4) = kFree;
+    m->G = LoadGroup{};
+    m->Q1 = LoadGroup{};
+    add_uniform(m->G, 1, 2.5F);
+    add_uniform(m->G, 3, 1.5F);
+    add_trapezoid(m->G, 2, 1.0F, 2.0F, 0.5F, 3.5F);
+    add_point(m->G, 1, 10.0F, 2.0F);
+    add_moment(m->G, 3, 5.0F, 1.0F);
+    add_uniform(m->Q1, 2, 4.0F);
+    add_trapezoid(m->Q1, 1, 3.0F, 0.0F, 0.0F, 4.0F);
+    add_point(m->Q1, 3, 7.5F, 3.0F);
+    add_point(m->Q1, 1, 2.0F, 1.0F);
+    add_moment(m->Q1, 2, -3.0F, 2.5F);
+    add_uniform(m->Q2, 3, 0.75F);
+    add_trapezoid(m->Q2, 3, 0.5F, 1.5F, 1.0F, 5.0F);
+    add_point(m->Q2, 2, 4.0F, 2.0F);
+    add_moment(m->Q2, 1, 1.25F, 3.0F);
+    m->profile_weight_on = kTrue;
+    m->comb_rule = "610b";
+    m->loadcomb_option = 2;
+    m->vipping_off = kFalse;
+    m->l_stag(1) = 2.0F, m->l_stag(2) = 2.5F, m->l_stag(3) = 3.0F;
+    m->lef_factor(1) = 0.9F, m->lef_factor(2) = 1.0F, m->lef_factor(3) = 0.8F;
+    m->load_location = 1;
+    build_calculation_grids(*m);
+    return m;
+}
+
 } // namespace kvelder::test

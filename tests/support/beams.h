@@ -39,6 +39,11 @@ void recalculate(Model& m);
 // The example beam of start-up, read from the data files of the source tree.
 std::unique_ptr<Model> example_beam();
 
+// The example beam grown to three spans (4, 5 and 6 m) from a built-in left
+// end to a free right end, with rows in every load table of every group, self
+// weight, 6.10b, the patterned run and the lateral-buckling check on.
+std::unique_ptr<Model> loaded_beam();
+
 // The data folder of the source tree.
 std::filesystem::path source_data_dir();
 

@@ -1,0 +1,92 @@
+// The four recent files: how opening and saving reorder them.
+
+#include "files/recent_files.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace kvelder::test {
+namespace {
+
+class MemoryStore final : public RecentFileStore {
+public:
+    std::string value(int number) const override
+    {
+        const auto it = keys.find(number);
+        return it == keys.end() ? std::string() : it->second;
+    }
+    void set_value(int number, const std::string& path) override { keys[number] = path; }
+
+    std::map<int, std::string> keys;
+};
+
+MemoryStore store_of(std::initializer_list<std::string> paths)
+{
+    MemoryStore s;
+    int k = 0;
+    for (const std::string& p : paths) {
+        s.keys[++k] = p;
+    }
+    return s;
+}
+
+std::vector<std::string> paths(const MemoryStore& s)
+{
+    std::vector<std::string> out;
+    for (const std::string& caption : ShowRecentFiles(s)) {
+        out.push_back(recent_file_path(caption));
+    }
+    return out;
+}
+
+using Paths = std::vector<std::string>;
+
+TEST(RecentFiles, AFreshUserHasNone)
+{
+    MemoryStore s;
+    EXPECT_TRUE(ShowRecentFiles(s).empty());
+    s.keys[2] = "/a.kvel"; // without a first entry the list stays hidden
+    EXPECT_TRUE(ShowRecentFiles(s).empty());
+}
+
+TEST(RecentFiles, CaptionsAreNumberedNewestFirst)
+{
+    const MemoryStore s = store_of({"/p/one.kvel", "/p/two.kvel"});
+    EXPECT_EQ(ShowRecentFiles(s), (Paths{"1. /p/one.kvel", "2. /p/two.kvel"}));
+}
+
+TEST(RecentFiles, OpeningReordersTheList)
+{
+    MemoryStore s = store_of({"A", "B", "C", "D"});
+    MoveRecentFile(s, "A");
+    EXPECT_EQ(paths(s), (Paths{"A", "B", "C", "D"}));
+    MoveRecentFile(s, "B");
+    EXPECT_EQ(paths(s), (Paths{"B", "A", "C", "D"}));
+    MoveRecentFile(s, "C");
+    EXPECT_EQ(paths(s), (Paths{"C", "B", "A", "D"}));
+    MoveRecentFile(s, "D");
+    EXPECT_EQ(paths(s), (Paths{"D", "C", "B", "A"}));
+    MoveRecentFile(s, "E");
+    EXPECT_EQ(paths(s), (Paths{"E", "D", "C", "B"}));
+}
+
+TEST(RecentFiles, AShortListGrowsWithoutGaps)
+{
+    MemoryStore s;
+    MoveRecentFile(s, "A");
+    MoveRecentFile(s, "B");
+    EXPECT_EQ(paths(s), (Paths{"B", "A"}));
+    AddRecentFile(s, "C");
+    EXPECT_EQ(paths(s), (Paths{"C", "B", "A"}));
+}
+
+TEST(RecentFiles, SavingUnderANameAlreadyListedListsItTwice)
+{
+    MemoryStore s = store_of({"A", "B", "C", "D"});
+    AddRecentFile(s, "C");
+    EXPECT_EQ(paths(s), (Paths{"C", "A", "B", "C"}));
+}
+
+} // namespace
+} // namespace kvelder::test
