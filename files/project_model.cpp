@@ -49,9 +49,11 @@ LoadRecord load_record(const LoadGroup& g)
     return r;
 }
 
+// A whole number kept in a float, rounded as the format has always rounded it:
+// halves to the even neighbour.
 std::int16_t span_number(float v)
 {
-    return static_cast<std::int16_t>(std::lround(v));
+    return static_cast<std::int16_t>(std::nearbyint(v));
 }
 
 float at(const Slots& s, int k)

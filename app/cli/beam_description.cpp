@@ -289,6 +289,9 @@ void set_material_and_section(Model& m, const json& d)
         if (m.section_form == "Tube" && m.prof_type_index >= 2) {
             fail("section_form", "a kerto or k_bjelke beam is rectangular");
         }
+        if (m.section_form == "Tube") {
+            m.standard_section = kFalse; // a circle is never a catalogue section
+        }
     }
 }
 

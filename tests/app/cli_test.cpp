@@ -278,6 +278,23 @@ TEST(CliProject, ASavedBeamRecalculatesAndDumpsToTheSameBeam)
     EXPECT_TRUE(std::equal(std::istreambuf_iterator<char>(fa), {}, std::istreambuf_iterator<char>(fb), {}));
 }
 
+TEST(CliProject, FreeSectionsDumpAsTheyWereDescribed)
+{
+    for (const char* text :
+         {R"({"prof_type_index": 0, "section_b": 98.0, "section_h": 223.0, "material": "C24"})",
+          R"({"section_form": "Tube", "section_d": 315.0})"}) {
+        const fs::path project = scratch_folder() / "free.kvel";
+        ASSERT_EQ(run("save " + description("free.json", text) + " -o '" + project.string() + "'").exit, 0);
+        const json back = json::parse(run("dump '" + project.string() + "'").out);
+        const json given = json::parse(text);
+        for (const auto& [key, value] : given.items()) {
+            if (key != "material") {
+                EXPECT_EQ(back[key], value) << key;
+            }
+        }
+    }
+}
+
 TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
 {
     const fs::path garbage = scratch_folder() / "garbage.kvel";

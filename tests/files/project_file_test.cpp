@@ -242,6 +242,16 @@ TEST(ProjectFile, SavingTwiceGivesTheSameBytesAndReplacesTheFileWhole)
     EXPECT_EQ(file_bytes(path), first);
     EXPECT_EQ(first, project_bytes(*m)); // no tail of the old file
     EXPECT_FALSE(fs::exists(path.string() + ".new"));
+
+    // The old file is replaced, never written over: a second name for it still
+    // shows the old bytes.
+    const fs::path old_name = project_folder() / "twice_old.kvel";
+    fs::remove(old_name);
+    fs::create_hard_link(path, old_name);
+    m->G.uni_q(1) = 9.5F;
+    ASSERT_FALSE(WriteProject(*m, path));
+    EXPECT_EQ(file_bytes(old_name), first);
+    EXPECT_NE(file_bytes(path), first);
 }
 
 TEST(ProjectFile, SavingPutsTheActiveFactorsIntoTheSetupRow)
@@ -435,6 +445,16 @@ TEST_F(DamagedProject, CountsAndChoicesBeyondTheirBoundsAreRefused)
         nan[record(6 + 4 + k)] = std::byte{0xFF}; // ffl_s(1)
     }
     EXPECT_NE(open_damaged(nan).detail.find("no number"), std::string::npos);
+    Bytes infinite = good;
+    for (const auto& [k, v] : {std::pair{0, 0x00}, {1, 0x00}, {2, 0x80}, {3, 0x7F}}) {
+        infinite[record(2232 + static_cast<std::size_t>(k))] = std::byte(v); // ksys
+    }
+    EXPECT_EQ(open_damaged(infinite).kind, ProjectFailure::Kind::NotAProject);
+    Bytes far_span = good;
+    for (const auto& [k, v] : {std::pair{0, 0x00}, {1, 0x40}, {2, 0x1C}, {3, 0x47}}) {
+        far_span[record(522 + 4 + static_cast<std::size_t>(k))] = std::byte(v); // G_uni_span(1) = 40000
+    }
+    EXPECT_EQ(open_damaged(far_span).kind, ProjectFailure::Kind::NotAProject);
 }
 
 TEST_F(DamagedProject, SelectionsOutsideTheirCataloguesAreRefused)

@@ -117,6 +117,7 @@ TEST(ProjectLayout, RecordFieldsOfABeamWithLoadsInEveryTable)
     m->creep_Q2 = 1.21F, m->gamma_Q2_a = 0.98F, m->gamma_Q2_b = 1.4F;
     m->bearing_length(6) = 120.0F;
     m->bearing_kc90(2) = 1.5F;
+    m->ffl_s(4) = 7.0F; // left from a beam of more spans
     const Bytes b = project_bytes(*m);
     const std::size_t texts = 7 + 3;
     const std::size_t start = b.size() - (2448 + texts + 2);

@@ -69,6 +69,7 @@ TEST(RecentFiles, OpeningReordersTheList)
     EXPECT_EQ(paths(s), (Paths{"D", "C", "B", "A"}));
     MoveRecentFile(s, "E");
     EXPECT_EQ(paths(s), (Paths{"E", "D", "C", "B"}));
+    EXPECT_EQ(s.keys.size(), 4U); // the fourth drops out, no fifth key
 }
 
 TEST(RecentFiles, AShortListGrowsWithoutGaps)
