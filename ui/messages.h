@@ -31,8 +31,9 @@ Message supports_unstable(const std::string& language);
 // What became of a data file that could not be used as it stands.
 Message data_file_message(const std::string& language, const DataFileNote& note);
 
-// Why a project could not be opened or saved. The three failures that every
-// version of the program has reported keep their words in both languages.
+// Why a project could not be opened or saved. A missing file, a missing folder
+// and a file that is no project keep the words the program has always used,
+// in English whatever the language.
 Message project_message(const std::string& language, const ProjectFailure& failure);
 
 } // namespace kvelder
