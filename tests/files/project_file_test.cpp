@@ -296,7 +296,7 @@ TEST(ProjectFile, AFailedSaveChangesNothing)
     EXPECT_FALSE(fs::exists(project_folder() / "long.kvel"));
     EXPECT_EQ(project_message("Eng", *too_long).text,
               "Can't save " + (project_folder() / "long.kvel").string() +
-                  ": the project text is longer than a project file can hold.");
+                  ": a text of the project record is longer than a project file can hold.");
 }
 
 TEST(ProjectFile, BytesAfterTheLastBlockAreIgnored)
@@ -474,6 +474,24 @@ TEST_F(DamagedProject, SelectionsOutsideTheirCataloguesAreRefused)
     f = decode_project(good);
     f.prof_type_index = 4;
     EXPECT_EQ(open_damaged(encode_project(f)).kind, ProjectFailure::Kind::NotAProject);
+}
+
+TEST(ProjectFile, CountsOfRowsBeyondATableStopAtTheTable)
+{
+    // The reader of the setup file counted a twelfth annex it did not keep, and
+    // saved that count; opening such a file must not reach past the table.
+    ProjectFile f = decode_project(project_bytes(*example_beam()));
+    f.setup.setup_last_row = 11;
+    f.setup.setup_row = 11;
+    f.materials.last_row = 150;
+    const Bytes b = encode_project(f);
+    auto m = example_beam();
+    LoadDialogs dialogs;
+    ASSERT_FALSE(ReadProjectBytes(*m, b, dialogs));
+    EXPECT_EQ(m->setup.setup_last_row, FileDatabase::kRows - 1);
+    EXPECT_EQ(m->material_table.last_row, MaterialTable::kRows - 1);
+    EXPECT_EQ(m->setup.setup_row, 0); // a row the table does not hold falls back to the first
+    EXPECT_EQ(m->annex, "Nor");
 }
 
 TEST(ProjectFile, ABeamThatCannotBeCalculatedStopsAtTheGate)
