@@ -310,6 +310,22 @@ TEST(ProjectFile, BytesAfterTheLastBlockAreIgnored)
     EXPECT_EQ(m->G, saved->G);
 }
 
+TEST(ProjectFile, SpareTextsAreSkippedWhateverTheyHold)
+{
+    auto saved = loaded_beam();
+    Bytes b = project_bytes(*saved);
+    ASSERT_EQ(b[5], std::byte{0}); // the setup's spare text follows the language "Eng"
+    const Bytes spare = {std::byte{3}, std::byte{0}, std::byte{'a'}, std::byte{'b'}, std::byte{'c'}};
+    b.erase(b.begin() + 5, b.begin() + 7);
+    b.insert(b.begin() + 5, spare.begin(), spare.end());
+    auto m = example_beam();
+    LoadDialogs dialogs;
+    const auto why = ReadProjectBytes(*m, b, dialogs);
+    ASSERT_FALSE(why) << *why;
+    EXPECT_EQ(m->G, saved->G);
+    EXPECT_EQ(m->setup.setup_table, saved->setup.setup_table);
+}
+
 TEST(ProjectFile, OpeningRecalculatesToTheResultsOfTheBeamSaved)
 {
     auto saved = loaded_beam();
