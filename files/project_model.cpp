@@ -12,17 +12,11 @@
 namespace kvelder {
 namespace {
 
-template <int N> void to_slots(const Table<std::int16_t, N>& t, int rows, Slots& s)
+// Rows 1..rows of a model table into their slots; span numbers become floats.
+template <typename T, int N> void to_slots(const Table<T, N>& t, int rows, Slots& s)
 {
     for (int k = 1; k <= rows; ++k) {
         s[static_cast<std::size_t>(k)] = static_cast<float>(t(k));
-    }
-}
-
-template <int N> void to_slots(const Table<float, N>& t, int rows, Slots& s)
-{
-    for (int k = 1; k <= rows; ++k) {
-        s[static_cast<std::size_t>(k)] = t(k);
     }
 }
 
