@@ -9,6 +9,7 @@ packages=(
   libgtest-dev libgmock-dev googletest
   libbenchmark-dev
   nlohmann-json3-dev
+  fonts-liberation fontconfig
 )
 
 missing=()

@@ -1,0 +1,174 @@
+// The drawing surface: scales, the cursor, and where things land in pixels.
+
+#include "drawing/plot_scale.h"
+#include "drawing/plot_surface.h"
+#include "tests/support/beams.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace kvelder::test {
+namespace {
+
+QImage blank(int w = 400, int h = 200)
+{
+    QImage image(w, h, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
+}
+
+TEST(PlotSurface, PercentScaleWithYUp)
+{
+    QImage image = blank();
+    {
+        PlotSurface s(image);
+        SetPlotScale(s, 0, 100, 100, 0);
+        EXPECT_EQ(s.ScaleHeight(), -100.0F);
+        s.SetDrawWidth(1);
+        s.Line(0, 1, 100, 1, RGB(255, 0, 0));    // near the bottom edge
+        s.Line(25, 50, 25, 100, RGB(0, 0, 255)); // from the middle up, a quarter in
+        EXPECT_FLOAT_EQ(s.CurrentX(), 25.0F);    // a line leaves the cursor at its end
+        EXPECT_FLOAT_EQ(s.CurrentY(), 100.0F);
+    }
+    EXPECT_EQ(image.pixelColor(200, 198), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(100, 50), QColor(0, 0, 255));
+    EXPECT_EQ(image.pixelColor(100, 150), QColor(Qt::white)); // below the middle: nothing
+}
+
+TEST(PlotSurface, PixelModeDropsTheUserScaleAndKeepsTheCursorsPlace)
+{
+    QImage image = blank();
+    PlotSurface s(image);
+    SetPlotScale(s, 0, 100, 100, 0);
+    s.SetCurrentX(50);
+    s.SetCurrentY(25);
+    s.SetScaleMode(3);
+    EXPECT_EQ(s.ScaleWidth(), 400.0F);
+    EXPECT_EQ(s.ScaleHeight(), 200.0F);
+    EXPECT_FLOAT_EQ(s.CurrentX(), 200.0F); // the same place, read in pixels
+    EXPECT_FLOAT_EQ(s.CurrentY(), 150.0F);
+    const PercentUnits u = GetPercentUnits(s);
+    EXPECT_FLOAT_EQ(u.width_unit, 4.0F);
+    EXPECT_FLOAT_EQ(u.height_unit, 2.0F);
+    SetPlotScale(s, 0, 100, 100, 0); // and back
+    EXPECT_FLOAT_EQ(s.CurrentX(), 50.0F);
+    EXPECT_FLOAT_EQ(s.CurrentY(), 25.0F);
+}
+
+TEST(PlotSurface, PrintMovesToTheNextLineAndTextHasWidth)
+{
+    QImage image = blank();
+    PlotSurface s(image);
+    SetPlotScale(s, 0, 100, 100, 0);
+    s.SetFontName("Arial");
+    s.SetFontSize(9);
+    s.SetCurrentX(10);
+    s.SetCurrentY(90);
+    s.Print("Permanent load (G):");
+    EXPECT_FLOAT_EQ(s.CurrentX(), 0.0F);
+    EXPECT_NEAR(s.CurrentY(), 90.0F - s.TextHeight(), 1e-4);
+    EXPECT_GT(s.TextWidth("Permanent load (G):"), s.TextWidth("G"));
+    // Text sits below the cursor: the top rows of the picture stay white.
+    bool ink_below = false;
+    for (int x = 40; x < 200 && !ink_below; ++x) {
+        for (int y = 21; y < 40; ++y) {
+            ink_below = ink_below || image.pixelColor(x, y) != QColor(Qt::white);
+        }
+    }
+    EXPECT_TRUE(ink_below);
+    for (int x = 0; x < 400; ++x) {
+        ASSERT_EQ(image.pixelColor(x, 18), QColor(Qt::white)) << x;
+    }
+}
+
+TEST(PlotSurface, PolygonsFillInDevicePixelsWhateverTheScale)
+{
+    QImage image = blank();
+    {
+        PlotSurface s(image);
+        SetPlotScale(s, 0, 100, 100, 0);
+        s.SetFillColor(0xC0C0C0);
+        s.SetForeColor(0);
+        const PixelPoint band[] = {{10, 10}, {110, 10}, {110, 60}, {10, 60}};
+        s.Polygon(band);
+    }
+    EXPECT_EQ(image.pixelColor(60, 35), QColor(0xC0, 0xC0, 0xC0));
+    EXPECT_EQ(image.pixelColor(10, 35), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(150, 35), QColor(Qt::white));
+}
+
+TEST(PlotSurface, BoxesArcsAndClearing)
+{
+    QImage image = blank();
+    PlotSurface s(image);
+    SetPlotScale(s, 0, 100, 100, 0);
+    s.SetFillStyle(0);
+    s.SetFillColor(255);
+    s.Line(10, 10, 30, 20, 255, true);
+    s.SetScaleMode(3);
+    s.Circle(300, 100, 40, 0, 0.0F, 3.14F); // the upper half, as seen
+    EXPECT_EQ(image.pixelColor(80, 170), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(300, 60), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(300, 140), QColor(Qt::white));
+    s.Cls();
+    EXPECT_EQ(image.pixelColor(80, 170), QColor(Qt::white));
+}
+
+TEST(PlotScale, SpanColumnsShareTheWidthByLength)
+{
+    auto m = make_beam({2.0F, 6.0F});
+    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
+    EXPECT_FLOAT_EQ(c.width[0], 24.0F);
+    EXPECT_FLOAT_EQ(c.width[1], 72.0F);
+    EXPECT_FLOAT_EQ(c.start(2), 26.0F);
+    EXPECT_FLOAT_EQ(c.at(2, 3.0F), 62.0F);
+    EXPECT_FLOAT_EQ(c.end(2), 98.0F);
+
+    auto one = make_beam({7.5F});
+    EXPECT_FLOAT_EQ(PlotSpanWidths(*one, 2.0F, 96.0F).width[0], 96.0F);
+
+    const SpanColumns sketch = SketchSpanWidths(10.0F);
+    EXPECT_FLOAT_EQ(sketch.start(4), 58.0F); // three columns of 16 after the margin
+    EXPECT_FLOAT_EQ(sketch.end(3), 58.0F);
+
+    auto none = make_beam({0.0F});
+    const SpanColumns empty = PlotSpanWidths(*none, 2.0F, 96.0F);
+    EXPECT_EQ(empty.per_metre, 0.0F); // no division by a length of 0
+    EXPECT_EQ(empty.end(1), 2.0F);
+}
+
+TEST(PlotScale, ArrowHeadsAreALittleTallerThanWide)
+{
+    EXPECT_EQ(ArrowHeight(4), 4);
+    EXPECT_EQ(ArrowHeight(6), 6);
+    EXPECT_EQ(ArrowHeight(8), 8);
+    EXPECT_EQ(ArrowHeight(20), 21); // 1.0471 x 20
+    const auto down = ArrowHead(6, true);
+    EXPECT_EQ(down[0].x, 3);
+    EXPECT_EQ(down[0].y, 6); // the tip at the bottom centre
+    EXPECT_EQ(down[1].x, 6);
+    EXPECT_EQ(down[2].y, 0);
+    const auto up = ArrowHead(8, false);
+    EXPECT_EQ(up[0].x, 4);
+    EXPECT_EQ(up[0].y, 0);
+    EXPECT_EQ(up[2].y, 8);
+}
+
+TEST(PlotScale, LargestValues)
+{
+    auto m = make_beam({3.0F, 4.0F});
+    m->nxtot_s(1) = 3;
+    m->nxtot_s(2) = 2;
+    Table2<float, kMaxSpans, kMaxPoints> v;
+    EXPECT_EQ(MaxAbsOverSpans(*m, v), 0.0F);
+    v(2, 2) = -7.5F;
+    v(1, 3) = 7.0F;
+    v(1, 4) = 99.0F; // beyond the span's points
+    EXPECT_EQ(MaxAbsOverSpans(*m, v), 7.5F);
+    Table<float, 10> loads;
+    loads(1) = 2, loads(2) = -3, loads(3) = 50;
+    EXPECT_EQ(MaxAbsOfLoads(loads, 2), 3.0F);
+}
+
+} // namespace
+} // namespace kvelder::test
