@@ -3,6 +3,7 @@
 #include "app/cli/beam_description.h"
 #include "app/cli/beam_dump.h"
 #include "app/cli/options.h"
+#include "app/cli/plot_command.h"
 #include "app/cli/result_json.h"
 #include "app/cli/result_text.h"
 #include "files/project_file.h"
@@ -10,6 +11,8 @@
 #include "files/text_lines.h"
 #include "model/main_calc.h"
 #include "ui/input_checks.h"
+
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <chrono>
@@ -220,6 +223,21 @@ int dump(const Options& o)
     return kCalculated;
 }
 
+int plot(const Options& o, int argc, char** argv)
+{
+    choose_headless_platform();
+    const QGuiApplication app(argc, argv);
+    auto m = std::make_unique<Model>();
+    std::vector<Message> messages = prepare(*m, o);
+    if (!messages.empty() || !calculate(*m, messages)) {
+        return report_failure(messages);
+    }
+    if (const std::string failed = write_pictures(*m, *o.output, o.width, o.height); !failed.empty()) {
+        throw Stop{kUsageError, failed};
+    }
+    return kCalculated;
+}
+
 int bench(const Options& o)
 {
     auto m = std::make_unique<Model>();
@@ -256,6 +274,9 @@ int main(int argc, char** argv)
         }
         if (o.command == "dump") {
             return dump(o);
+        }
+        if (o.command == "plot") {
+            return plot(o, argc, argv);
         }
         return o.command == "calc" ? calc(o) : bench(o);
     } catch (const Stop& stop) {

@@ -9,10 +9,12 @@ namespace kvelder::cli {
 const char* const kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--text]\n"
                            "       kvelder-cli save [BEAM.json] -o FILE.kvel [--data-dir DIR]\n"
                            "       kvelder-cli dump FILE.kvel [--data-dir DIR]\n"
+                           "       kvelder-cli plot [INPUT] -o DIR [--size WxH] [--data-dir DIR]\n"
                            "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
                            "INPUT is a beam description (.json) or a project file (.kvel); without it the\n"
                            "example beam is used. save writes the beam as a project file, dump writes a\n"
-                           "project file as a beam description.\n";
+                           "project file as a beam description, plot draws the six pictures of the window\n"
+                           "as PNG files.\n";
 
 namespace {
 
@@ -23,8 +25,32 @@ bool has_extension(const std::filesystem::path& path, std::string_view extension
     return e == extension;
 }
 
+// "WxH", each side 16 to 8000 pixels.
+void size_into(const std::string& text, Options& o)
+{
+    const std::size_t x = text.find('x');
+    try {
+        std::size_t used_w = 0, used_h = 0;
+        if (x == std::string::npos) {
+            throw std::invalid_argument(text);
+        }
+        const int w = std::stoi(text.substr(0, x), &used_w);
+        const int h = std::stoi(text.substr(x + 1), &used_h);
+        if (used_w != x || used_h != text.size() - x - 1 || w < 16 || h < 16 || w > 8000 || h > 8000) {
+            throw std::invalid_argument(text);
+        }
+        o.width = w;
+        o.height = h;
+    } catch (const std::logic_error&) {
+        throw Stop{kUsageError, "--size needs WIDTHxHEIGHT in pixels, 16 to 8000 each, not \"" + text + "\""};
+    }
+}
+
 void check_input(const Options& o)
 {
+    if (o.command == "plot" && !o.output) {
+        throw Stop{kUsageError, "plot needs -o and the folder for its pictures"};
+    }
     if (o.command == "dump" && (!o.input || !is_project(*o.input))) {
         throw Stop{kUsageError, "dump needs a project file (.kvel)"};
     }
@@ -61,7 +87,8 @@ Options parse(const std::vector<std::string>& args)
     }
     Options o;
     o.command = args[0];
-    if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "bench") {
+    if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "plot" &&
+        o.command != "bench") {
         throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
     }
     for (std::size_t k = 1; k < args.size(); ++k) {
@@ -76,8 +103,10 @@ Options parse(const std::vector<std::string>& args)
             o.data_dir = std::filesystem::path(value());
         } else if (a == "--text" && o.command == "calc") {
             o.text = true;
-        } else if (a == "-o" && o.command == "save") {
+        } else if (a == "-o" && (o.command == "save" || o.command == "plot")) {
             o.output = std::filesystem::path(value());
+        } else if (a == "--size" && o.command == "plot") {
+            size_into(value(), o);
         } else if (a == "-n" && o.command == "bench") {
             const std::string& n = value();
             try {

@@ -22,12 +22,13 @@ struct Stop {
 };
 
 struct Options {
-    std::string command; // "calc", "save", "dump" or "bench"
+    std::string command; // "calc", "save", "dump", "plot" or "bench"
     std::optional<std::filesystem::path> input;
-    std::optional<std::filesystem::path> output; // the project file of "save"
+    std::optional<std::filesystem::path> output; // the project file of "save", the folder of "plot"
     std::optional<std::filesystem::path> data_dir;
     bool text = false;
     int runs = 1000;
+    int width = 800, height = 300; // pixels of each picture of "plot"
 };
 
 // The kinds of input the tool reads, by the extension of the file.

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "model/model.h"
+
+#include <filesystem>
+#include <string>
+
+namespace kvelder::cli {
+
+// Draws the six pictures of the window for a calculated beam into `folder`
+// as "<picture box>.png", each `width` x `height` pixels. Empty on success,
+// otherwise what could not be written.
+std::string write_pictures(const Model& m, const std::filesystem::path& folder, int width, int height);
+
+// Qt's platform for drawing without a screen, unless a display or a chosen
+// platform is there.
+void choose_headless_platform();
+
+} // namespace kvelder::cli

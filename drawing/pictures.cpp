@@ -1,0 +1,58 @@
+#include "drawing/pictures.h"
+
+#include "drawing/beam_plot.h"
+#include "drawing/result_plot.h"
+
+namespace kvelder {
+
+const char* picture_name(ScreenPicture p)
+{
+    switch (p) {
+    case ScreenPicture::Picfelt:
+        return "Picfelt";
+    case ScreenPicture::Picegenlast:
+        return "Picegenlast";
+    case ScreenPicture::Picnyttelast:
+        return "Picnyttelast";
+    case ScreenPicture::Picnyttelast_2:
+        return "Picnyttelast_2";
+    case ScreenPicture::Picresult:
+        return "Picresult";
+    case ScreenPicture::Picdisp:
+        break;
+    }
+    return "Picdisp";
+}
+
+void PlotAllLoads(PlotSurface& egenlast, PlotSurface& nyttelast, PlotSurface& nyttelast_2, const Model& m)
+{
+    LoadPlotState state;
+    const bool drawable = !is_true(m.err_loads) && !is_true(m.err_spans);
+    egenlast.Cls();
+    if (drawable) {
+        PlotBeamToScale(egenlast, m);
+        if (!m.G.empty()) {
+            PlotLoadGroup(egenlast, m, LoadGroupId::G, state);
+        }
+    }
+    nyttelast.Cls();
+    if (drawable && !m.Q1.empty()) {
+        PlotLoadGroup(nyttelast, m, LoadGroupId::Q1, state);
+    }
+    nyttelast_2.Cls();
+    if (drawable && !m.Q2.empty()) {
+        PlotLoadGroup(nyttelast_2, m, LoadGroupId::Q2, state);
+    }
+}
+
+void PlotAll(const ScreenSurfaces& s, const Model& m)
+{
+    s.felt.Cls();
+    PlotSpanSketch(s.felt, m);
+    PlotAllLoads(s.egenlast, s.nyttelast, s.nyttelast_2, m);
+    s.result.Cls();
+    s.disp.Cls();
+    PlotResults(s.result, s.disp, m);
+}
+
+} // namespace kvelder
