@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <cstdio>
 #include <fstream>
 #include <sys/wait.h>
@@ -328,6 +329,55 @@ TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
             refused.string() + "'");
     EXPECT_EQ(r.exit, 1);
     EXPECT_FALSE(fs::exists(refused));
+}
+
+// The width and height a PNG file's header gives.
+std::pair<int, int> png_size(const fs::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    std::array<unsigned char, 24> head{};
+    in.read(reinterpret_cast<char*>(head.data()), head.size());
+    const auto be32 = [&](std::size_t at) {
+        return head[at] << 24 | head[at + 1] << 16 | head[at + 2] << 8 | head[at + 3];
+    };
+    return {be32(16), be32(20)};
+}
+
+TEST(CliPlot, SixPicturesOfTheExampleAndOfAFiveSpanBeam)
+{
+    const fs::path folder = scratch_folder() / "pictures";
+    CliRun r = run("plot -o '" + folder.string() + "' --size 640x240");
+    ASSERT_EQ(r.exit, 0) << r.err;
+    for (const char* name :
+         {"Picfelt", "Picegenlast", "Picnyttelast", "Picnyttelast_2", "Picresult", "Picdisp"}) {
+        EXPECT_EQ(png_size(folder / (std::string(name) + ".png")), std::make_pair(640, 240)) << name;
+    }
+
+    const std::string five = description("five.json", R"({
+      "nf": 5, "ffl_s": [4.0, 5.5, 3.2, 6.0, 2.5], "nsupLeft_s": "I", "nsupRight_s": "F",
+      "loadcomb_option": 2, "profile_weight_on": true, "section_b": 190, "section_h": 630,
+      "G": {"uni": [[1, 2.5], [4, -0.8]], "trap": [[2, 1.0, 2.0, 0.5, 3.5]], "pt": [[5, -4.0, 1.5]],
+            "mom": [[3, 5.0, 1.0]]},
+      "Q1": {"uni": [[2, 4.0]], "trap": [[1, 3.0, 0.0, 0.0, 4.0]], "pt": [[3, 7.5, 3.0]]},
+      "Q2": {"uni": [[3, 0.75]], "trap": [[4, 1.0, 1.5, 2.0, 4.0]], "pt": [[2, 4.0, 2.0]], "mom": [[1, -2.0, 1.0]]}
+    })");
+    const fs::path five_folder = scratch_folder() / "five";
+    r = run("plot " + five + " -o '" + five_folder.string() + "'");
+    ASSERT_EQ(r.exit, 0) << r.err;
+    EXPECT_EQ(png_size(five_folder / "Picresult.png"), std::make_pair(800, 300));
+}
+
+TEST(CliPlot, WrongRequestsExitTwo)
+{
+    for (const char* args :
+         {"plot", "plot -o x --size 10x10", "plot -o x --size wide", "calc --size 100x100"}) {
+        EXPECT_EQ(run(args).exit, 2) << args;
+    }
+    const fs::path blocked = scratch_folder() / "blocked";
+    std::ofstream(blocked) << "a file where the folder should be";
+    const CliRun r = run("plot -o '" + blocked.string() + "'");
+    EXPECT_EQ(r.exit, 2);
+    EXPECT_NE(r.err.find("no folder"), std::string::npos) << r.err;
 }
 
 } // namespace

@@ -1,0 +1,167 @@
+// The six pictures drawn into images: the colours of the beam, the load bands
+// and the curves appear where they must, and beams without anything to scale
+// still draw what they can.
+
+#include "drawing/pictures.h"
+#include "model/main_calc.h"
+#include "tests/support/beams.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace kvelder::test {
+namespace {
+
+constexpr int kWidth = 600, kHeight = 200;
+
+struct Pictures {
+    std::array<QImage, 6> images;
+
+    explicit Pictures(const Model& m)
+    {
+        for (QImage& image : images) {
+            image = QImage(kWidth, kHeight, QImage::Format_RGB32);
+            image.fill(Qt::magenta); // whatever Cls does not clear shows
+        }
+        std::array<std::unique_ptr<PlotSurface>, 6> s;
+        for (std::size_t k = 0; k < s.size(); ++k) {
+            s[k] = std::make_unique<PlotSurface>(images[k]);
+        }
+        PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m);
+    }
+
+    const QImage& operator[](ScreenPicture p) const { return images[static_cast<std::size_t>(p)]; }
+};
+
+// Text is smoothed: its pixels are near its colour rather than on it.
+bool bluish(QColor c)
+{
+    return c.blue() > 150 && c.red() < 120 && c.green() < 120;
+}
+bool reddish(QColor c)
+{
+    return c.red() > 150 && c.green() < 120 && c.blue() < 120;
+}
+
+// How many pixels of a colour lie in a band of rows, given in percent of the
+// height measured from the bottom.
+template <typename Match>
+int count_if(const QImage& image, Match match, float from_pct = 0, float to_pct = 100)
+{
+    int n = 0;
+    const int top = static_cast<int>(kHeight * (1 - to_pct / 100));
+    const int bottom = static_cast<int>(kHeight * (1 - from_pct / 100));
+    for (int y = std::max(0, top); y < std::min(kHeight, bottom); ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            n += match(image.pixelColor(x, y)) ? 1 : 0;
+        }
+    }
+    return n;
+}
+
+int count(const QImage& image, QColor color, float from_pct = 0, float to_pct = 100)
+{
+    return count_if(
+        image, [color](QColor c) { return c == color; }, from_pct, to_pct);
+}
+
+const QColor kBeamRed(255, 0, 0), kBandGrey(0xC0, 0xC0, 0xC0), kGreen(0, 0xC0, 0), kLightGreen(0, 255, 0),
+    kCurveBlue(0, 0, 255), kInk(0, 0, 0);
+
+std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
+{
+    RecordingScreen screen;
+    MainCalc(*m, screen, scratch_folder());
+    EXPECT_TRUE(screen.messages.empty());
+    return m;
+}
+
+TEST(Pictures, ACantileverOfOneSpan)
+{
+    auto beam = example_beam();
+    set_span_count(*beam, 1);
+    beam->ffl_s(1) = 3.0F;
+    beam->ffl_s(2) = 0.0F;
+    beam->nsupLeft_s = beam->support_kind(1) = kBuiltIn;
+    beam->nsupRight_s = beam->support_kind(2) = kFree;
+    beam->G = LoadGroup{};
+    add_uniform(beam->G, 1, 2.0F);
+    beam->Q1 = LoadGroup{};
+    add_point(beam->Q1, 1, 5.0F, 2.5F);
+    const auto m = calculated(std::move(beam));
+    const Pictures p(*m);
+
+    for (const QImage& image : p.images) {
+        EXPECT_EQ(count(image, Qt::magenta), 0) << "every picture is cleared first";
+    }
+    // The beam body lies at 10 % in Picegenlast, the band of G just above 20 %.
+    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBeamRed, 9, 12), kWidth / 2);
+    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 20, 31), kWidth * 10);
+    // Q1's one point load: an arrow, no band.
+    EXPECT_EQ(count(p[ScreenPicture::Picnyttelast], kBandGrey), 0);
+    EXPECT_GT(count(p[ScreenPicture::Picnyttelast], kInk, 10, 22), 20);
+    // Q2 is empty: a clean picture.
+    EXPECT_EQ(count(p[ScreenPicture::Picnyttelast_2], Qt::white), kWidth * kHeight);
+    // Hogging all along, which is drawn above the moment axis at 75 %.
+    EXPECT_GT(count(p[ScreenPicture::Picresult], kGreen, 76, 100), 100);
+    EXPECT_EQ(count(p[ScreenPicture::Picresult], kCurveBlue, 50, 74), 0);
+    // The free end hangs down: the deflection curve runs below its axis at 60 %.
+    EXPECT_GT(count(p[ScreenPicture::Picdisp], kCurveBlue, 25, 60), 100);
+    EXPECT_GT(count_if(p[ScreenPicture::Picdisp], reddish), 20); // "= L / " and its ratio
+}
+
+TEST(Pictures, ThreeSpansWithEveryKindOfLoad)
+{
+    const auto m = calculated(loaded_beam());
+    const Pictures p(*m);
+    // G: uniform band at 20 %, trapezoid above it, point and moment above that.
+    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 20, 30), 1000);
+    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 37, 48), 100);
+    EXPECT_GT(count_if(p[ScreenPicture::Picegenlast], bluish), 50); // the values
+    // Q1 and Q2 both draw their bands from 10 %.
+    EXPECT_GT(count(p[ScreenPicture::Picnyttelast], kBandGrey, 10, 22), 1000);
+    EXPECT_GT(count(p[ScreenPicture::Picnyttelast_2], kBandGrey, 10, 22), 100);
+    // Both envelopes of both diagrams, and the crossings in red.
+    EXPECT_GT(count(p[ScreenPicture::Picresult], kGreen), 200);
+    EXPECT_GT(count(p[ScreenPicture::Picresult], kCurveBlue), 200);
+    EXPECT_GT(count_if(p[ScreenPicture::Picresult], reddish), 20);
+    EXPECT_GT(count(p[ScreenPicture::Picdisp], kLightGreen) + count(p[ScreenPicture::Picdisp], kCurveBlue),
+              200);
+    // The span sketch: three columns of 16 % from 10 %, the rest of the width empty.
+    const QImage& felt = p[ScreenPicture::Picfelt];
+    EXPECT_GT(count(felt, kBeamRed, 84, 87), 100);
+    for (int x = static_cast<int>(kWidth * 0.60); x < kWidth; ++x) {
+        ASSERT_NE(felt.pixelColor(x, static_cast<int>(kHeight * 0.145)), kBeamRed) << x;
+    }
+}
+
+TEST(Pictures, NothingToScaleStillDrawsWhatItCan)
+{
+    // All loads gone and no self weight: every result is 0.
+    auto none = example_beam();
+    none->G = LoadGroup{};
+    none->Q1 = LoadGroup{};
+    RecordingScreen screen;
+    MainCalc(*none, screen, scratch_folder());
+    const Pictures empty(*none);
+    EXPECT_GT(count(empty[ScreenPicture::Picegenlast], kBeamRed), 100); // the beam
+    EXPECT_GT(count(empty[ScreenPicture::Picresult], kInk), 100);       // the axes
+    EXPECT_EQ(count(empty[ScreenPicture::Picresult], kCurveBlue), 0);
+
+    // A load row of no value, and a span of no length.
+    auto zero = example_beam();
+    zero->G.uni_q(1) = 0.0F;
+    zero->G.uni_q(2) = 0.0F;
+    zero->ffl_s(2) = 0.0F;
+    const Pictures odd(*zero);
+    EXPECT_EQ(count(odd[ScreenPicture::Picegenlast], kBandGrey), 0);
+    auto nothing = example_beam();
+    nothing->ffl_s.fill(0.0F);
+    const Pictures flat(*nothing);
+    EXPECT_EQ(count(flat[ScreenPicture::Picfelt], Qt::magenta), 0);
+}
+
+} // namespace
+} // namespace kvelder::test

@@ -1,0 +1,164 @@
+// Where the pictures put their bands and labels, as numbers rather than pixels.
+
+#include "drawing/load_plot.h"
+#include "drawing/result_plot.h"
+#include "model/main_calc.h"
+#include "tests/support/beams.h"
+#include "ui/number_format.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace kvelder::test {
+namespace {
+
+std::vector<std::string> texts(const CurveMarks& marks)
+{
+    std::vector<std::string> out;
+    for (const DiagramText& t : marks.texts) {
+        out.push_back(t.text);
+    }
+    return out;
+}
+
+std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
+{
+    RecordingScreen screen;
+    MainCalc(*m, screen, scratch_folder());
+    EXPECT_TRUE(screen.messages.empty());
+    return m;
+}
+
+CurveMarks marks_of(const Model& m, Diagram d, bool upper)
+{
+    const Table2<float, kMaxSpans, kMaxPoints>& values = d == Diagram::Moment  ? (upper ? m.M_max : m.M_min)
+                                                         : d == Diagram::Shear ? (upper ? m.V_max : m.V_min)
+                                                                               : (upper ? m.W_max : m.W_min);
+    const float maximum =
+        d == Diagram::Moment  ? std::max(MaxAbsOverSpans(m, m.M_max), MaxAbsOverSpans(m, m.M_min))
+        : d == Diagram::Shear ? std::max(MaxAbsOverSpans(m, m.V_max), MaxAbsOverSpans(m, m.V_min))
+                              : std::max(MaxAbsOverSpans(m, m.W_max), MaxAbsOverSpans(m, m.W_min));
+    return curve_marks(m, d, values, upper, PlotSpanWidths(m, 2.0F, 96.0F), screen_place(d, maximum));
+}
+
+TEST(LoadBands, EachBandStandsOnTheOnesBelowIt)
+{
+    LoadGroup g;
+    add_moment(g, 1, 1.0F, 1.0F);
+    EXPECT_EQ(band_bases(g, 10, 11).moment, 10.0F); // alone, at the base
+    add_uniform(g, 1, 1.0F);
+    add_trapezoid(g, 1, 1, 2, 0, 1);
+    add_point(g, 1, 1, 1);
+    const BandBases all = band_bases(g, 10, 11);
+    EXPECT_EQ(all.uniform, 10.0F);
+    EXPECT_EQ(all.trapezoid, 10.0F + 11 + 1.5F * 7);
+    EXPECT_EQ(all.point, 10.0F + 2 * 11 + 2 * 7);
+    EXPECT_EQ(all.moment, 64.0F);
+    LoadGroup no_uniform;
+    add_trapezoid(no_uniform, 1, 1, 2, 0, 1);
+    add_moment(no_uniform, 1, 1, 1);
+    EXPECT_EQ(band_bases(no_uniform, 20, 10).trapezoid, 20.0F);
+    EXPECT_EQ(band_bases(no_uniform, 20, 10).moment, 37.0F);
+}
+
+TEST(ResultLabels, MomentPeaksEndsAndZeroCrossings)
+{
+    const auto m = calculated(example_beam()); // two spans of 5 m, total load
+    const auto lower = texts(marks_of(*m, Diagram::Moment, false));
+    // One sagging peak in each span, and the two points where the moment comes back to 0.
+    EXPECT_EQ(std::count(lower.begin(), lower.end(), "-12.1"), 2);
+    EXPECT_EQ(std::count(lower.begin(), lower.end(), "x ="), 2);
+    const auto upper = texts(marks_of(*m, Diagram::Moment, true));
+    EXPECT_EQ(std::count(upper.begin(), upper.end(), "21.6"), 1); // the left end of span 2 only
+    EXPECT_EQ(std::count(upper.begin(), upper.end(), "x ="), 2);
+    // The crossings lie on the grid points beside 3.75 m and 1.25 m.
+    EXPECT_NE(std::find(upper.begin(), upper.end(), "3.700"), upper.end());
+    EXPECT_NE(std::find(lower.begin(), lower.end(), "3.800"), lower.end());
+    // Every value label has its drop line.
+    const CurveMarks marks = marks_of(*m, Diagram::Moment, false);
+    EXPECT_EQ(marks.strokes.size(), 2U + 2U); // two drop lines, two crossing ticks
+}
+
+TEST(ResultLabels, NoPeakInASpanWithoutLoad)
+{
+    auto beam = example_beam();
+    beam->G = LoadGroup{};
+    add_uniform(beam->G, 1, 2.0F);
+    beam->Q1 = LoadGroup{};
+    add_uniform(beam->Q1, 1, 4.0F);
+    const auto m = calculated(std::move(beam));
+    const CurveMarks marks = marks_of(*m, Diagram::Moment, false);
+    const auto t = texts(marks);
+    ASSERT_EQ(std::count(t.begin(), t.end(), "x ="), 1);
+    for (const DiagramText& label : marks.texts) {
+        EXPECT_LT(label.x, 50.0F) << label.text << ": span 2 carries nothing and gets no label";
+    }
+}
+
+TEST(ResultLabels, ACantileverShowsItsDeflectionAsAPartOfItsLength)
+{
+    auto beam = example_beam();
+    set_span_count(*beam, 1);
+    beam->ffl_s(1) = 3.0F;
+    beam->ffl_s(2) = 0.0F;
+    beam->nsupLeft_s = beam->support_kind(1) = kBuiltIn;
+    beam->nsupRight_s = beam->support_kind(2) = kFree;
+    beam->G = LoadGroup{};
+    add_uniform(beam->G, 1, 2.0F);
+    beam->Q1 = LoadGroup{};
+    add_uniform(beam->Q1, 1, 4.0F);
+    const auto m = calculated(std::move(beam));
+    const CurveMarks marks = marks_of(*m, Diagram::Deflection, false);
+    const float tip = m->W_min(1, 2);
+    ASSERT_LT(tip, -0.01F);
+    const auto t = texts(marks);
+    EXPECT_NE(std::find(t.begin(), t.end(), format_number(tip, "##0.0")), t.end());
+    EXPECT_NE(std::find(t.begin(), t.end(), "= L / "), t.end());
+    EXPECT_NE(std::find(t.begin(), t.end(), format_number(std::abs(3.0F * 1000 / tip), "0")), t.end());
+    // The free end's drop line stands at the right end of the beam.
+    EXPECT_TRUE(std::any_of(marks.strokes.begin(), marks.strokes.end(),
+                            [](const DiagramStroke& s) { return s.x1 == 98.0F && s.y1 == 60.0F; }));
+    EXPECT_TRUE(texts(marks_of(*m, Diagram::Deflection, true)).empty()); // nothing rises
+}
+
+TEST(ResultLabels, ShearEndsBelowTheThresholdAreNotLabelled)
+{
+    auto m = make_beam({4.0F});
+    recalculate(*m);
+    Table2<float, kMaxSpans, kMaxPoints> v;
+    const int n = m->nxtot_s(1);
+    for (int k = 1; k <= n; ++k) {
+        v(1, k) = 0.05F;
+    }
+    v(1, 2) = 3.0F; // the right end
+    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
+    const CurveMarks marks = curve_marks(*m, Diagram::Shear, v, true, c, screen_place(Diagram::Shear, 3.0F));
+    EXPECT_EQ(texts(marks), std::vector<std::string>{"3.0"});
+    EXPECT_FLOAT_EQ(marks.texts[0].x, 98.0F - 5);
+    const CurveMarks none = curve_marks(*m, Diagram::Shear, v, false, c, screen_place(Diagram::Shear, 3.0F));
+    EXPECT_TRUE(none.texts.empty()); // the lower curve labels only values below 0
+}
+
+TEST(ResultLabels, AllZeroDiagramsHaveNoLabels)
+{
+    auto m = make_beam({4.0F, 4.0F});
+    recalculate(*m);
+    const Table2<float, kMaxSpans, kMaxPoints> zero;
+    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
+    EXPECT_TRUE(
+        curve_marks(*m, Diagram::Moment, zero, true, c, screen_place(Diagram::Moment, 0)).texts.empty());
+}
+
+TEST(ResultLabels, CurvesRunLeftToRight)
+{
+    auto m = make_beam({4.0F});
+    recalculate(*m);
+    const SpanCurve c = span_curve(*m, m->xl_s, 1);
+    ASSERT_EQ(c.x.size(), static_cast<std::size_t>(m->nxtot_s(1)));
+    EXPECT_TRUE(std::is_sorted(c.x.begin(), c.x.end()));
+    EXPECT_EQ(c.x.back(), 4.0F);
+}
+
+} // namespace
+} // namespace kvelder::test
