@@ -33,14 +33,14 @@ std::string ratio_text(float length, float v)
 
 class Marker {
 public:
-    Marker(const Model& m, const DiagramPlace& place, CurveMarks& marks)
-        : m_m(m), m_place(place), m_marks(marks)
+    Marker(const Model& m, const DiagramPlace& place, PlotColor color, CurveMarks& marks)
+        : m_m(m), m_place(place), m_color(color), m_marks(marks)
     {
     }
     // A value with its drop line from the axis to the curve at x.
     void value(float x, float text_x, float text_y, float v, float curve_y)
     {
-        m_marks.texts.push_back({text_x, text_y, value_text(m_m, v), kBlue, 7});
+        m_marks.texts.push_back({text_x, text_y, value_text(m_m, v), m_color, 7});
         m_marks.strokes.push_back({x, m_place.base, x, curve_y});
     }
     void text(float x, float y, std::string s, PlotColor color, float size = 7)
@@ -52,6 +52,7 @@ public:
 private:
     const Model& m_m;
     const DiagramPlace& m_place;
+    PlotColor m_color;
     CurveMarks& m_marks;
 };
 
@@ -65,23 +66,30 @@ bool peak_at(const SpanCurve& c, std::size_t k)
     return std::abs(c.v[k + 1]) <= std::abs(c.v[k]) && std::abs(c.v[k - 1]) < std::abs(c.v[k]);
 }
 
-void moment_marks(const Model& m, const SpanCurve& c, const Mapper& map, bool upper, Marker& mark)
+void moment_marks(const Model& m, const SpanCurve& c, const Mapper& map, bool upper, const LabelStyle& st,
+                  Marker& mark)
 {
     const std::size_t n = c.v.size();
     const auto y = [&](std::size_t k) { return map.py(c.v[k]); };
     if (std::abs(c.v[1]) < std::abs(c.v[0]) && own_sign(c.v[0], upper)) {
-        mark.value(map.px(c.x[0]), map.px(c.x[0]), c.v[0] > 0 ? y(0) + 5 : y(1) - 2, c.v[0], y(0));
+        const float x = map.px(c.x[0]);
+        mark.value(x, x + st.moment_left.dx,
+                   c.v[0] > 0 ? y(0) + st.moment_left.above : y(1) + st.moment_left.below, c.v[0], y(0));
     }
     if (span_loaded(m, map.span) || is_true(m.profile_weight_on)) {
         for (std::size_t k = 1; k + 2 < n; ++k) {
             if (peak_at(c, k) && own_sign(c.v[k], upper)) {
-                mark.value(map.px(c.x[k]), map.px(c.x[k]), c.v[k] > 0 ? y(k) + 5 : y(k) - 2, c.v[k], y(k));
+                const float x = map.px(c.x[k]);
+                mark.value(x, x + st.moment_peak.dx,
+                           y(k) + (c.v[k] > 0 ? st.moment_peak.above : st.moment_peak.below), c.v[k], y(k));
             }
         }
     }
     if (map.span == m.nf && std::abs(c.v[n - 1]) > 0.001F && own_sign(c.v[n - 1], upper)) {
         const float x = map.px(c.x[n - 1]);
-        mark.value(x, x - 4, c.v[n - 1] > 0 ? y(n - 1) + 5 : y(n - 1) - 2, c.v[n - 1], y(n - 1));
+        mark.value(x, x + st.moment_right.dx,
+                   y(n - 1) + (c.v[n - 1] > 0 ? st.moment_right.above : st.moment_right.below), c.v[n - 1],
+                   y(n - 1));
     }
     if (!span_loaded(m, map.span)) {
         return;
@@ -105,60 +113,66 @@ void moment_marks(const Model& m, const SpanCurve& c, const Mapper& map, bool up
         const float yk = y(k);
         const std::string where = format_number(at, "##0.000", m.decimal_comma != 0);
         mark.stroke(x, yk - 1, x, yk + 1);
-        if (from > 0) { // "over": reached from above the axis
-            mark.text(x - 4, yk + 8, "x =", kRed, 7);
-            mark.text(x - 1, yk + 8, where, kRed, 6);
-        } else {
-            mark.text(x - 2, yk - 5, "x =", kRed, 7);
-            mark.text(x + 1, yk - 5, where, kRed, 7);
-        }
+        const CrossingPlace& place =
+            from > 0 ? st.crossing_over : st.crossing_under; // "over" comes from above
+        mark.text(x + place.dx, yk + place.dy, "x =", st.crossing_color, 7);
+        mark.text(x + place.position_dx, yk + place.dy, where, st.crossing_color, place.position_size);
     }
 }
 
-void shear_marks(const SpanCurve& c, const Mapper& map, bool upper, Marker& mark)
+void shear_marks(const SpanCurve& c, const Mapper& map, bool upper, const LabelStyle& st, Marker& mark)
 {
     const std::size_t n = c.v.size();
     const auto y = [&](std::size_t k) { return map.py(c.v[k]); };
-    if (std::abs(c.v[0]) > 0.099F && own_sign(c.v[0], upper)) {
+    if (std::abs(c.v[0]) > st.shear_threshold && own_sign(c.v[0], upper)) {
         const float x = map.px(c.x[0]);
-        mark.value(x, x + 1, c.v[0] > 0 ? y(0) + 5 : y(1) - 2, c.v[0], y(0));
+        mark.value(x, x + st.shear_left.dx,
+                   c.v[0] > 0 ? y(0) + st.shear_left.above : y(1) + st.shear_left.below, c.v[0], y(0));
     }
-    if (std::abs(c.v[n - 1]) > 0.099F && own_sign(c.v[n - 1], upper)) {
+    if (std::abs(c.v[n - 1]) > st.shear_threshold && own_sign(c.v[n - 1], upper)) {
         const float x = map.px(c.x[n - 1]);
-        mark.value(x, x - 5, c.v[n - 1] > 0 ? y(n - 1) + 5 : y(n - 1) - 2, c.v[n - 1], y(n - 1));
+        mark.value(x, x + st.shear_right.dx,
+                   y(n - 1) + (c.v[n - 1] > 0 ? st.shear_right.above : st.shear_right.below), c.v[n - 1],
+                   y(n - 1));
     }
 }
 
-void deflection_marks(const Model& m, const SpanCurve& c, const Mapper& map, bool upper, Marker& mark)
+void deflection_marks(const Model& m, const SpanCurve& c, const Mapper& map, bool upper, const LabelStyle& st,
+                      Marker& mark)
 {
     const std::size_t n = c.v.size();
     const auto y = [&](std::size_t k) { return map.py(c.v[k]); };
     const float length = m.ffl_s(map.span);
+    const auto ratio = [&](float x, const RatioPlace& r, float height, float v) {
+        mark.text(x + r.text_dx, height + r.dy, "= L / ", st.ratio_color);
+        mark.text(x + r.ratio_dx, height + r.dy, ratio_text(length, v), st.ratio_color);
+    };
     if (map.span == 1 && m.nsupLeft_s == kFree) {
         const float x = map.px(c.x[0]);
         mark.stroke(x, map.place.base, x, y(0));
-        if (std::abs(c.v[0]) > 0.001F && own_sign(c.v[0], upper)) {
-            mark.value(x, x, c.v[0] > 0 ? y(0) + 5 : y(1) - 6, c.v[0], y(0));
-            mark.text(x + 8, y(0) - 6, "= L / ", kRed);
-            mark.text(x + 12, y(0) - 6, ratio_text(length, c.v[0]), kRed);
+        if (std::abs(c.v[0]) > st.deflection_end_threshold && own_sign(c.v[0], upper)) {
+            mark.value(x, x + st.deflection_left.dx,
+                       c.v[0] > 0 ? y(0) + st.deflection_left.above : y(1) + st.deflection_left.below, c.v[0],
+                       y(0));
+            ratio(x, st.left_ratio, y(0), c.v[0]);
         }
     }
     for (std::size_t k = 1; k + 1 < n; ++k) {
-        if (std::abs(c.v[k]) > 0.1F && peak_at(c, k) && own_sign(c.v[k], upper)) {
+        if (std::abs(c.v[k]) > st.deflection_peak_threshold && peak_at(c, k) && own_sign(c.v[k], upper)) {
             const float x = map.px(c.x[k]);
-            mark.value(x, x - 3, c.v[k] > 0 ? y(k) + 6 : y(k) - 2, c.v[k], y(k));
-            mark.text(x + 3, y(k) - 6, "= L / ", kRed);
-            mark.text(x + 7, y(k) - 6, ratio_text(length, c.v[k]), kRed);
+            mark.value(x, x + st.deflection_peak.dx,
+                       y(k) + (c.v[k] > 0 ? st.deflection_peak.above : st.deflection_peak.below), c.v[k],
+                       y(k));
+            ratio(x, st.peak_ratio, y(k), c.v[k]);
         }
     }
     if (map.span == m.nf && m.nsupRight_s == kFree) {
         const float x = map.px(c.x[n - 1]);
         mark.stroke(x, map.place.base, x, y(n - 1));
-        if (std::abs(c.v[n - 1]) > 0.01F && own_sign(c.v[n - 1], upper)) {
-            const bool above = c.v[n - 1] > 0;
-            mark.value(x, above ? x - 6 : x - 12, above ? y(n - 1) + 5 : y(n - 1) - 6, c.v[n - 1], y(n - 1));
-            mark.text(x - 6, y(n - 1) - 6, "= L / ", kRed);
-            mark.text(x - 1, y(n - 1) - 6, ratio_text(length, c.v[n - 1]), kRed);
+        if (std::abs(c.v[n - 1]) > st.deflection_right_threshold && own_sign(c.v[n - 1], upper)) {
+            const LabelPlace& at = c.v[n - 1] > 0 ? st.deflection_right_above : st.deflection_right_below;
+            mark.value(x, x + at.dx, y(n - 1) + (c.v[n - 1] > 0 ? at.above : at.below), c.v[n - 1], y(n - 1));
+            ratio(x, st.right_ratio, y(n - 1), c.v[n - 1]);
         }
     }
 }
@@ -175,7 +189,7 @@ void draw_curve(PlotSurface& s, const Model& m, Diagram d, const Values& values,
                    color);
         }
     }
-    const CurveMarks marks = curve_marks(m, d, values, upper, c, place);
+    const CurveMarks marks = curve_marks(m, d, values, upper, c, place, screen_labels());
     s.SetFontName("Arial");
     for (const DiagramText& t : marks.texts) {
         s.SetFontSize(t.size);
@@ -241,6 +255,63 @@ SpanCurve span_curve(const Model& m, const Values& values, int span)
     return c;
 }
 
+const LabelStyle& screen_labels()
+{
+    static const LabelStyle style = [] {
+        LabelStyle st;
+        st.moment_left = {0, 5, -2};
+        st.moment_peak = {0, 5, -2};
+        st.moment_right = {-4, 5, -2};
+        st.shear_left = {1, 5, -2};
+        st.shear_right = {-5, 5, -2};
+        st.shear_threshold = 0.099F;
+        st.deflection_left = {0, 5, -6};
+        st.left_ratio = {8, 12, -6};
+        st.deflection_peak = {-3, 6, -2};
+        st.peak_ratio = {3, 7, -6};
+        st.deflection_right_above = {-6, 5, 0};
+        st.deflection_right_below = {-12, 0, -6};
+        st.right_ratio = {-6, -1, -6};
+        st.deflection_end_threshold = 0.001F;
+        st.deflection_peak_threshold = 0.1F;
+        st.deflection_right_threshold = 0.01F;
+        st.crossing_over = {-4, 8, -1, 6};
+        st.crossing_under = {-2, -5, 1, 7};
+        st.value_color = kBlue;
+        st.ratio_color = kRed;
+        st.crossing_color = kRed;
+        return st;
+    }();
+    return style;
+}
+
+// On paper everything is black. The offsets the paper does not give are those
+// of the screen; where the right end's ratio goes is our own choice.
+const LabelStyle& paper_labels()
+{
+    static const LabelStyle style = [] {
+        LabelStyle st = screen_labels();
+        st.moment_left = {3, 5, -2};
+        st.moment_right = {-5, 5, -2};
+        st.shear_left = {3, -1, -1};
+        st.shear_right = {-7, 2, -1};
+        st.shear_threshold = 0.09F;
+        st.deflection_left = {0, 2, -2};
+        st.left_ratio = {10, 17, -2};
+        st.deflection_peak = {3, -1, -1};
+        st.peak_ratio = {8, 15, -1};
+        st.deflection_right_above = {-4, 2, 0};
+        st.deflection_right_below = {-17, 0, -2};
+        st.right_ratio = {-14, -6, -5};
+        st.deflection_end_threshold = st.deflection_peak_threshold = st.deflection_right_threshold = 0.099F;
+        st.crossing_over = {-4, 4, 1, 6};
+        st.crossing_under = {-2, -2, 3, 7};
+        st.value_color = st.ratio_color = st.crossing_color = kBlack;
+        return st;
+    }();
+    return style;
+}
+
 DiagramPlace screen_place(Diagram d, float maximum)
 {
     switch (d) {
@@ -282,13 +353,13 @@ bool span_loaded(const Model& m, int span)
 }
 
 CurveMarks curve_marks(const Model& m, Diagram d, const Values& values, bool upper,
-                       const SpanColumns& columns, const DiagramPlace& place)
+                       const SpanColumns& columns, const DiagramPlace& place, const LabelStyle& style)
 {
     CurveMarks marks;
     if (!(place.maximum > 0)) {
         return marks;
     }
-    Marker mark(m, place, marks);
+    Marker mark(m, place, style.value_color, marks);
     for (int i = 1; i <= m.nf; ++i) {
         const SpanCurve c = span_curve(m, values, i);
         if (c.v.size() < 3 || !(m.ffl_s(i) > 0)) {
@@ -297,13 +368,13 @@ CurveMarks curve_marks(const Model& m, Diagram d, const Values& values, bool upp
         const Mapper map{columns, place, i};
         switch (d) {
         case Diagram::Moment:
-            moment_marks(m, c, map, upper, mark);
+            moment_marks(m, c, map, upper, style, mark);
             break;
         case Diagram::Shear:
-            shear_marks(c, map, upper, mark);
+            shear_marks(c, map, upper, style, mark);
             break;
         case Diagram::Deflection:
-            deflection_marks(m, c, map, upper, mark);
+            deflection_marks(m, c, map, upper, style, mark);
             break;
         }
     }
