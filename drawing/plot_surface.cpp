@@ -145,6 +145,8 @@ void PlotSurface::Line(float x1, float y1, float x2, float y2, PlotColor color, 
     if (box) {
         m_painter.setBrush(m_fill_style == 0 ? QBrush(qt_color(m_fill)) : QBrush(Qt::NoBrush));
         m_painter.drawRect(QRectF(a, b).normalized());
+    } else if (a == b) {
+        m_painter.drawPoint(a); // a line of no length is a dot, as on the screen
     } else {
         m_painter.drawLine(a, b);
     }
