@@ -8,6 +8,8 @@
 #include <array>
 #include <cstdlib>
 #include <memory>
+#include <string>
+#include <unistd.h>
 
 namespace kvelder::cli {
 
@@ -16,6 +18,17 @@ void choose_headless_platform()
     if (std::getenv("QT_QPA_PLATFORM") == nullptr && std::getenv("DISPLAY") == nullptr &&
         std::getenv("WAYLAND_DISPLAY") == nullptr) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    }
+    // Qt wants a private runtime folder and complains on stderr without one.
+    if (std::getenv("XDG_RUNTIME_DIR") == nullptr) {
+        std::error_code ec;
+        const std::filesystem::path runtime =
+            std::filesystem::temp_directory_path(ec) / ("kvelder-runtime-" + std::to_string(getuid()));
+        std::filesystem::create_directory(runtime, ec);
+        std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
+        if (!ec) {
+            setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 // and the curves appear where they must, and beams without anything to scale
 // still draw what they can.
 
+#include "drawing/load_sketches.h"
 #include "drawing/pictures.h"
 #include "model/main_calc.h"
 #include "tests/support/beams.h"
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 
 namespace kvelder::test {
 namespace {
@@ -161,6 +163,26 @@ TEST(Pictures, NothingToScaleStillDrawsWhatItCan)
     nothing->ffl_s.fill(0.0F);
     const Pictures flat(*nothing);
     EXPECT_EQ(count(flat[ScreenPicture::Picfelt], Qt::magenta), 0);
+}
+
+TEST(Pictures, TheSketchesOfTheLoadDialogs)
+{
+    int n = 0;
+    for (const auto plot : {&PlotTrapezoidSketch, &PlotPointSketch, &PlotMomentSketch}) {
+        QImage image(kWidth, kHeight, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        {
+            PlotSurface s(image);
+            plot(s);
+        }
+        if (const char* keep = std::getenv("KVELDER_KEEP_PICTURES")) {
+            image.save(QString::fromUtf8(keep) + QString("/sketch%1.png").arg(++n));
+        }
+        EXPECT_EQ(count(image, Qt::magenta), 0);
+        EXPECT_GT(count(image, QColor(0, 0, 250), 29, 31), kWidth / 3); // the span
+        EXPECT_GT(count(image, QColor(250, 0, 0)), 100);                // a dimension line
+        EXPECT_GT(count(image, kInk, 31, 100), 20);                     // the load itself
+    }
 }
 
 } // namespace
