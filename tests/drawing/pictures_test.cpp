@@ -165,6 +165,43 @@ TEST(Pictures, NothingToScaleStillDrawsWhatItCan)
     EXPECT_EQ(count(flat[ScreenPicture::Picfelt], Qt::magenta), 0);
 }
 
+// The first row from the middle down that holds the grey of a band (above it
+// the smoothed caption has greys of its own).
+int top_of_bands(const QImage& image)
+{
+    for (int y = kHeight / 2; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            if (image.pixelColor(x, y) == kBandGrey) {
+                return y;
+            }
+        }
+    }
+    return kHeight;
+}
+
+TEST(Pictures, Q2TakesTheBandHeightTheLastPassLeft)
+{
+    const auto q2_top = [](bool q1_loaded) {
+        auto m = example_beam();
+        m->Q1 = LoadGroup{};
+        if (q1_loaded) {
+            add_point(m->Q1, 1, 5.0F, 2.0F);
+        }
+        add_uniform(m->Q2, 1, 3.0F);
+        std::array<QImage, 3> images;
+        for (QImage& image : images) {
+            image = QImage(kWidth, kHeight, QImage::Format_RGB32);
+        }
+        {
+            PlotSurface g(images[0]), q1(images[1]), q2(images[2]);
+            PlotAllLoads(g, q1, q2, *m);
+        }
+        return top_of_bands(images[2]);
+    };
+    // The largest load stands 10 % high after G alone, 11 % after a Q1 pass: 2 pixels in 200.
+    EXPECT_EQ(q2_top(false) - q2_top(true), 2);
+}
+
 TEST(Pictures, TheSketchesOfTheLoadDialogs)
 {
     int n = 0;
