@@ -82,15 +82,7 @@ std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
 
 TEST(Pictures, ACantileverOfOneSpan)
 {
-    auto beam = example_beam();
-    set_span_count(*beam, 1);
-    beam->ffl_s(1) = 3.0F;
-    beam->ffl_s(2) = 0.0F;
-    beam->nsupLeft_s = beam->support_kind(1) = kBuiltIn;
-    beam->nsupRight_s = beam->support_kind(2) = kFree;
-    beam->G = LoadGroup{};
-    add_uniform(beam->G, 1, 2.0F);
-    beam->Q1 = LoadGroup{};
+    auto beam = cantilever(3.0F);
     add_point(beam->Q1, 1, 5.0F, 2.5F);
     const auto m = calculated(std::move(beam));
     const Pictures p(*m);

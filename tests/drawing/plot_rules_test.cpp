@@ -98,15 +98,7 @@ TEST(ResultLabels, NoPeakInASpanWithoutLoad)
 
 TEST(ResultLabels, ACantileverShowsItsDeflectionAsAPartOfItsLength)
 {
-    auto beam = example_beam();
-    set_span_count(*beam, 1);
-    beam->ffl_s(1) = 3.0F;
-    beam->ffl_s(2) = 0.0F;
-    beam->nsupLeft_s = beam->support_kind(1) = kBuiltIn;
-    beam->nsupRight_s = beam->support_kind(2) = kFree;
-    beam->G = LoadGroup{};
-    add_uniform(beam->G, 1, 2.0F);
-    beam->Q1 = LoadGroup{};
+    auto beam = cantilever(3.0F);
     add_uniform(beam->Q1, 1, 4.0F);
     const auto m = calculated(std::move(beam));
     const CurveMarks marks = marks_of(*m, Diagram::Deflection, false);

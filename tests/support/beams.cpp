@@ -153,4 +153,19 @@ std::unique_ptr<Model> loaded_beam()
     return m;
 }
 
+std::unique_ptr<Model> cantilever(float length)
+{
+    auto m = example_beam();
+    set_span_count(*m, 1);
+    m->ffl_s.fill(0.0F);
+    m->ffl_s(1) = length;
+    m->nsupLeft_s = m->support_kind(1) = kBuiltIn;
+    m->nsupRight_s = m->support_kind(2) = kFree;
+    m->G = LoadGroup{};
+    add_uniform(m->G, 1, 2.0F);
+    m->Q1 = LoadGroup{};
+    build_calculation_grids(*m);
+    return m;
+}
+
 } // namespace kvelder::test

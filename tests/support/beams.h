@@ -44,6 +44,10 @@ std::unique_ptr<Model> example_beam();
 // weight, 6.10b, the patterned run and the lateral-buckling check on.
 std::unique_ptr<Model> loaded_beam();
 
+// The example beam cut to one span of `length` built in at the left and free
+// at the right, with G 2.0 kN/m and no variable load.
+std::unique_ptr<Model> cantilever(float length);
+
 // The data folder of the source tree.
 std::filesystem::path source_data_dir();
 
