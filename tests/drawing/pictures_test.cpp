@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <cstdlib>
 
 namespace kvelder::test {
@@ -69,6 +70,21 @@ int count(const QImage& image, QColor color, float from_pct = 0, float to_pct = 
         image, [color](QColor c) { return c == color; }, from_pct, to_pct);
 }
 
+// Black pixels on the row of a height in percent, give or take a pixel.
+int line_at(const QImage& image, float pct)
+{
+    const int row = static_cast<int>(std::lround(kHeight * (1 - pct / 100)));
+    int most = 0;
+    for (int y = row - 1; y <= row + 1; ++y) {
+        int n = 0;
+        for (int x = 0; x < kWidth; ++x) {
+            n += image.pixelColor(x, y) == QColor(Qt::black) ? 1 : 0;
+        }
+        most = std::max(most, n);
+    }
+    return most;
+}
+
 const QColor kBeamRed(255, 0, 0), kBandGrey(0xC0, 0xC0, 0xC0), kGreen(0, 0xC0, 0), kLightGreen(0, 255, 0),
     kCurveBlue(0, 0, 255), kInk(0, 0, 0);
 
@@ -117,6 +133,10 @@ TEST(Pictures, ThreeSpansWithEveryKindOfLoad)
     // Q1 and Q2 both draw their bands from 10 %.
     EXPECT_GT(count(p[ScreenPicture::Picnyttelast], kBandGrey, 10, 22), 1000);
     EXPECT_GT(count(p[ScreenPicture::Picnyttelast_2], kBandGrey, 10, 22), 100);
+    // The axes: moment at 75 %, shear at 29 %, deflection at 60 %.
+    EXPECT_GT(line_at(p[ScreenPicture::Picresult], 75), kWidth * 9 / 10);
+    EXPECT_GT(line_at(p[ScreenPicture::Picresult], 29), kWidth * 9 / 10);
+    EXPECT_GT(line_at(p[ScreenPicture::Picdisp], 60), kWidth * 9 / 10);
     // Both envelopes of both diagrams, and the crossings in red.
     EXPECT_GT(count(p[ScreenPicture::Picresult], kGreen), 200);
     EXPECT_GT(count(p[ScreenPicture::Picresult], kCurveBlue), 200);

@@ -80,20 +80,26 @@ TEST(ResultLabels, MomentPeaksEndsAndZeroCrossings)
     EXPECT_EQ(marks.strokes.size(), 2U + 2U); // two drop lines, two crossing ticks
 }
 
-TEST(ResultLabels, NoPeakInASpanWithoutLoad)
+TEST(ResultLabels, PeaksOnlyInASpanThatCarriesALoadOrItsOwnWeight)
 {
-    auto beam = example_beam();
-    beam->G = LoadGroup{};
-    add_uniform(beam->G, 1, 2.0F);
-    beam->Q1 = LoadGroup{};
-    add_uniform(beam->Q1, 1, 4.0F);
-    const auto m = calculated(std::move(beam));
-    const CurveMarks marks = marks_of(*m, Diagram::Moment, false);
-    const auto t = texts(marks);
-    ASSERT_EQ(std::count(t.begin(), t.end(), "x ="), 1);
-    for (const DiagramText& label : marks.texts) {
-        EXPECT_LT(label.x, 50.0F) << label.text << ": span 2 carries nothing and gets no label";
+    auto m = make_beam({4.0F, 4.0F});
+    recalculate(*m);
+    // A sagging peak in the middle of span 2.
+    Table2<float, kMaxSpans, kMaxPoints> v;
+    for (int k = 1; k <= m->nxtot_s(2); ++k) {
+        const float x = m->xl_s(2, k);
+        v(2, k) = -x * (4.0F - x);
     }
+    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
+    const auto labels = [&] {
+        return texts(curve_marks(*m, Diagram::Moment, v, false, c, screen_place(Diagram::Moment, 4.0F)));
+    };
+    EXPECT_TRUE(labels().empty());
+    m->profile_weight_on = kTrue;
+    EXPECT_EQ(labels(), std::vector<std::string>{"-4.0"});
+    m->profile_weight_on = kFalse;
+    add_point(m->Q2, 2, 1.0F, 2.0F);
+    EXPECT_EQ(labels(), std::vector<std::string>{"-4.0"});
 }
 
 TEST(ResultLabels, ACantileverShowsItsDeflectionAsAPartOfItsLength)
