@@ -47,7 +47,7 @@ void PlotSpanSketch(PlotSurface& surface, const Model& m, float margin, float y)
 
     PixelMode px(surface);
     for (int node = 1; node <= m.nnodes; ++node) {
-        const float x = px.x(margin + static_cast<float>(node - 1) * c.width[0]);
+        const float x = px.x(c.start(node));
         const float top = px.y(y);
         const char kind = m.support_kind(node);
         DrawSupport(surface, kind, x, top, 8, node == 1, node == m.nnodes);

@@ -195,6 +195,9 @@ float PlotSurface::TextHeight() const
 
 void PlotSurface::Cls()
 {
+    if (m_pages != nullptr) {
+        return; // paper is not cleared: a printer has pages instead
+    }
     m_painter.fillRect(QRect(0, 0, PixelWidth(), PixelHeight()), m_background);
     m_cursor_x = to_device(0, 0).x();
     m_cursor_y = to_device(0, 0).y();

@@ -72,6 +72,8 @@ public:
     float TextWidth(std::string_view text) const;
     float TextHeight() const;
 
+    // Cls clears a screen surface and puts the cursor at (0, 0); a printer
+    // surface has NewPage and EndDoc instead, and the others do nothing there.
     void Cls();
     void NewPage();
     void EndDoc();
