@@ -19,8 +19,8 @@ void DrawArrowHead(PlotSurface& surface, float left, float top, int size, bool d
 {
     surface.SetCurrentX(left);
     surface.SetCurrentY(top);
-    const auto dx = static_cast<std::int32_t>(surface.CurrentX());
-    const auto dy = static_cast<std::int32_t>(surface.CurrentY());
+    const auto dx = to_pixel(surface.CurrentX());
+    const auto dy = to_pixel(surface.CurrentY());
     std::array<PixelPoint, 3> points = ArrowHead(size, down);
     for (PixelPoint& p : points) {
         p.x += dx;

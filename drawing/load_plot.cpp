@@ -35,10 +35,10 @@ void grey_band(PlotSurface& s, float left, float right, float base, float top_le
     s.SetFillColor(kGrey);
     s.SetForeColor(kBlack);
     const PixelPoint band[] = {
-        {static_cast<std::int32_t>(left), static_cast<std::int32_t>(base)},
-        {static_cast<std::int32_t>(right), static_cast<std::int32_t>(base)},
-        {static_cast<std::int32_t>(right), static_cast<std::int32_t>(top_right)},
-        {static_cast<std::int32_t>(left), static_cast<std::int32_t>(top_left)},
+        {to_pixel(left), to_pixel(base)},
+        {to_pixel(right), to_pixel(base)},
+        {to_pixel(right), to_pixel(top_right)},
+        {to_pixel(left), to_pixel(top_left)},
     };
     s.Polygon(band);
 }

@@ -41,10 +41,10 @@ void PlotTrapezoidSketch(PlotSurface& s)
         s.SetFillColor(kGrey);
         s.SetForeColor(kBlack);
         const PixelPoint band[] = {
-            {static_cast<std::int32_t>(px.x(x1)), static_cast<std::int32_t>(px.y(kSpanY))},
-            {static_cast<std::int32_t>(px.x(x2)), static_cast<std::int32_t>(px.y(kSpanY))},
-            {static_cast<std::int32_t>(px.x(x2)), static_cast<std::int32_t>(px.y(kSpanY + h2))},
-            {static_cast<std::int32_t>(px.x(x1)), static_cast<std::int32_t>(px.y(kSpanY + h1))},
+            {to_pixel(px.x(x1)), to_pixel(px.y(kSpanY))},
+            {to_pixel(px.x(x2)), to_pixel(px.y(kSpanY))},
+            {to_pixel(px.x(x2)), to_pixel(px.y(kSpanY + h2))},
+            {to_pixel(px.x(x1)), to_pixel(px.y(kSpanY + h1))},
         };
         s.Polygon(band);
     }

@@ -164,7 +164,7 @@ void paper_diagram(PlotSurface& s, const Model& m, Diagram d,
                    int axis_width)
 {
     const DiagramPlace place{base, 0.075F, std::max(MaxAbsOverSpans(m, upper), MaxAbsOverSpans(m, lower))};
-    if (place.maximum > 0) {
+    if (place.maximum > 0 && std::isfinite(place.maximum)) {
         for (const auto* values : {&upper, &lower}) {
             s.SetDrawStyle(values == &upper ? 0 : 2);
             for (int i = 1; i <= m.nf; ++i) {

@@ -43,6 +43,14 @@ Qt::PenStyle pen_style(int style)
 
 } // namespace
 
+std::int32_t to_pixel(double v)
+{
+    if (!(std::abs(v) < 1.0e6)) {
+        return std::isnan(v) ? 0 : (v > 0 ? 1000000 : -1000000);
+    }
+    return static_cast<std::int32_t>(v);
+}
+
 PlotSurface::PlotSurface(QPaintDevice& device, QColor background) : m_device(device), m_background(background)
 {
     begin();

@@ -26,6 +26,10 @@ struct PixelPoint {
     std::int32_t y = 0;
 };
 
+// A pixel coordinate as the polygon operation takes it: truncated towards 0,
+// held to a range far beyond any picture, and 0 for what is no number.
+std::int32_t to_pixel(double v);
+
 // The one drawing target of every picture: a picture on the screen, an image,
 // a printer or a PDF page, all through QPainter. Coordinates are in the user
 // scale in force (or device pixels in pixel mode); a negative ScaleHeight turns

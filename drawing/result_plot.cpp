@@ -227,7 +227,7 @@ void draw_diagram(PlotSurface& s, const Model& m, Diagram d, const Values& upper
 {
     const float maximum = std::max(MaxAbsOverSpans(m, upper), MaxAbsOverSpans(m, lower));
     const DiagramPlace place = screen_place(d, maximum);
-    if (maximum > 0) {
+    if (maximum > 0 && std::isfinite(maximum)) { // results beyond any number show no curve
         draw_curve(s, m, d, upper, true, c, place);
         draw_curve(s, m, d, lower, false, c, place);
     }
@@ -356,7 +356,7 @@ CurveMarks curve_marks(const Model& m, Diagram d, const Values& values, bool upp
                        const SpanColumns& columns, const DiagramPlace& place, const LabelStyle& style)
 {
     CurveMarks marks;
-    if (!(place.maximum > 0)) {
+    if (!(place.maximum > 0) || !std::isfinite(place.maximum)) {
         return marks;
     }
     Marker mark(m, place, style.value_color, marks);

@@ -1,6 +1,7 @@
 #include "ui/number_format.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -143,6 +144,9 @@ std::string scientific(double value, int places, int exponent_digits)
 
 std::string format_number(double value, std::string_view pattern, bool decimal_comma)
 {
+    if (!std::isfinite(value)) {
+        return std::isnan(value) ? "NaN" : (value > 0 ? "Inf" : "-Inf"); // a result beyond any number
+    }
     const std::size_t first = pattern.find_first_of("0#");
     if (first == std::string_view::npos) {
         return std::string(pattern);

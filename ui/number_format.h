@@ -9,7 +9,8 @@ namespace kvelder {
 // and the like, "#" for a whole number without a nought, and "0.00E+00" or
 // "0.000E+00" for a power of ten. Characters around the pattern (a blank
 // before or after) are kept. Halves round away from zero. `decimal_comma`
-// writes a comma for the point.
+// writes a comma for the point. A value that is no finite number reads "Inf",
+// "-Inf" or "NaN".
 std::string format_number(double value, std::string_view pattern, bool decimal_comma = false);
 
 } // namespace kvelder

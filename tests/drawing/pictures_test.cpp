@@ -4,8 +4,11 @@
 
 #include "drawing/load_sketches.h"
 #include "drawing/pictures.h"
+#include "files/project_file.h"
 #include "model/main_calc.h"
 #include "tests/support/beams.h"
+#include "tests/support/damaged_projects.h"
+#include "ui/input_checks.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
@@ -232,6 +235,32 @@ TEST(Pictures, TheSketchesOfTheLoadDialogs)
         EXPECT_GT(count(image, QColor(250, 0, 0)), 100);                // a dimension line
         EXPECT_GT(count(image, kInk, 31, 100), 20);                     // the load itself
     }
+}
+
+TEST(Pictures, EveryProjectThatOpensCanBeDrawn)
+{
+    // Damaged projects that still open hold odd beams: every picture must be
+    // drawn without a fault (run it under the asan preset to see one).
+    const std::vector<Bytes> seeds = seed_projects();
+    std::mt19937 rng(20261122);
+    const auto base = example_beam();
+    auto m = std::make_unique<Model>();
+    int drawn = 0;
+    for (int trial = 0; trial < 300; ++trial) {
+        *m = *base;
+        LoadDialogs dialogs;
+        if (ReadProjectBytes(*m, damage(seeds[static_cast<std::size_t>(trial) % seeds.size()], rng),
+                             dialogs)) {
+            continue;
+        }
+        check_all_boxes(*m);
+        RecordingScreen screen;
+        MainCalc(*m, screen, scratch_folder());
+        const Pictures p(*m);
+        ASSERT_EQ(count(p[ScreenPicture::Picresult], Qt::magenta), 0) << "trial " << trial;
+        ++drawn;
+    }
+    EXPECT_GT(drawn, 60);
 }
 
 } // namespace

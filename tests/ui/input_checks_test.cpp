@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 namespace kvelder::test {
 namespace {
 
@@ -117,6 +120,10 @@ TEST(NumberFormat, WritesThePatternsOfTheDisplay)
     EXPECT_EQ(format_number(9.9996e5, "0.000E+00"), "1.000E+06");
     EXPECT_EQ(format_number(0.004, "0.00"), "0.00");
     EXPECT_EQ(format_number(0.0049, "0.0"), "0.0");
+    // Results of absurd loads can run past any number; they still read.
+    EXPECT_EQ(format_number(std::numeric_limits<double>::infinity(), "##0.0"), "Inf");
+    EXPECT_EQ(format_number(-std::numeric_limits<double>::infinity(), "0.00E+00"), "-Inf");
+    EXPECT_EQ(format_number(std::nan(""), "0.00"), "NaN");
 }
 
 } // namespace
