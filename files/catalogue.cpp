@@ -43,14 +43,22 @@ float number_at(const std::vector<std::string>& columns, std::size_t c, std::int
     return TextToNumber(text, decimal_comma).value_or(0.0F);
 }
 
-// Names each field of a row that is not above 0.
-void require_positive(ReadNotes& notes, const std::string& row,
-                      std::initializer_list<std::pair<const char*, float>> fields)
+// Names each field that is not above 0.
+std::vector<std::string> not_positive(std::initializer_list<std::pair<const char*, float>> fields)
 {
+    std::vector<std::string> names;
     for (const auto& [name, value] : fields) {
         if (!(value > 0)) {
-            notes.unusable.push_back(row + ": " + name);
+            names.emplace_back(name);
         }
+    }
+    return names;
+}
+
+void note_unusable(ReadNotes& notes, const std::string& row, const std::vector<std::string>& fields)
+{
+    for (const std::string& field : fields) {
+        notes.unusable.push_back(row + ": " + field);
     }
 }
 
@@ -70,13 +78,7 @@ MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_
         for (std::size_t k = 0; k < fields.size(); ++k) {
             *fields[k] = number_at(col, source[k], decimal_comma);
         }
-        require_positive(notes, row.name,
-                         {{"fm,k", row.fmk},
-                          {"fc,90,k", row.fc90k},
-                          {"fv,k", row.fvk},
-                          {"E0,mean", row.E0mean},
-                          {"E0,05", row.E005},
-                          {"density", row.density}});
+        note_unusable(notes, row.name, unusable_fields(row));
     });
     return table;
 }
@@ -90,9 +92,24 @@ ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_co
         row.family_code = col[1];
         row.b = number_at(col, 3, decimal_comma);
         row.h = number_at(col, 4, decimal_comma);
-        require_positive(notes, row.name, {{"b", row.b}, {"h", row.h}});
+        note_unusable(notes, row.name, unusable_fields(row));
     });
     return table;
+}
+
+std::vector<std::string> unusable_fields(const MaterialRow& row)
+{
+    return not_positive({{"fm,k", row.fmk},
+                         {"fc,90,k", row.fc90k},
+                         {"fv,k", row.fvk},
+                         {"E0,mean", row.E0mean},
+                         {"E0,05", row.E005},
+                         {"density", row.density}});
+}
+
+std::vector<std::string> unusable_fields(const ProfileRow& row)
+{
+    return not_positive({{"b", row.b}, {"h", row.h}});
 }
 
 ProfileFamilies SplitProfileFamilies(const ProfileTable& profiles)

@@ -24,6 +24,11 @@ struct ReadNotes {
 MaterialTable ReadMaterialCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
 ProfileTable ReadProfileCatalogue(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes);
 
+// The fields of a row that no calculation can use (a strength, modulus,
+// density or size of 0 or less); none for a sound row.
+std::vector<std::string> unusable_fields(const MaterialRow& row);
+std::vector<std::string> unusable_fields(const ProfileRow& row);
+
 // The four family lists, rebuilt in table order. An unknown family code drops
 // the row from every list.
 ProfileFamilies SplitProfileFamilies(const ProfileTable& profiles);

@@ -1,6 +1,7 @@
 #include "files/project_layout.h"
 
 #include "files/catalogue.h"
+#include "files/setup_file.h"
 #include "model/model.h"
 
 #include <algorithm>
@@ -300,9 +301,27 @@ void check_project(ProjectFile& f)
 
     within(f.material_row, 0, f.materials.last_row, "the material row");
     within(f.prof_type_index, 0, 3, "the profile family");
-    const auto listed = static_cast<int>(SplitProfileFamilies(f.profiles).of(f.prof_type_index).size());
+    const std::vector<ProfileRow>& family = SplitProfileFamilies(f.profiles).of(f.prof_type_index);
+    const int listed = static_cast<int>(family.size());
     within(f.prof_index, 0, is_true(p.standard_section) ? listed - 1 : ProfileTable::kRows - 1,
            "the profile row");
+
+    // The rows the beam is calculated with must hold numbers a calculation can use.
+    const auto usable = [](const std::vector<std::string>& fields, const std::string& row) {
+        if (!fields.empty()) {
+            refuse(row + " has no usable " + fields.front());
+        }
+    };
+    const MaterialRow& material = f.materials.rows[static_cast<std::size_t>(f.material_row)];
+    usable(unusable_fields(material), "the material \"" + material.name + "\"");
+    const int annex =
+        f.setup.setup_row >= 0 && f.setup.setup_row <= f.setup.setup_last_row ? f.setup.setup_row : 0;
+    const SetupRow& setup = f.setup.setup_table[static_cast<std::size_t>(annex)];
+    usable(unusable_fields(setup), "the annex \"" + setup.annex + "\"");
+    if (is_true(p.standard_section)) {
+        const ProfileRow& profile = family[static_cast<std::size_t>(f.prof_index)];
+        usable(unusable_fields(profile), "the profile \"" + profile.name + "\"");
+    }
 }
 
 } // namespace

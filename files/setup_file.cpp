@@ -70,31 +70,6 @@ float psi2_of(std::int16_t index)
 
 // Names the values of an annex row that the setup dialog would refuse: factors
 // of 0.1 or less, classes and psi positions its lists do not hold.
-void check_row(const SetupRow& r, ReadNotes& notes)
-{
-    const std::pair<const char*, float> factors[] = {
-        {"gamma_M timber", r.gamma_timb}, {"gamma_M laminated", r.gamma_lam},
-        {"gamma_M kerto", r.gamma_kerto}, {"gamma_M k_bjelke", r.gamma_k_bjelke},
-        {"kcr timber", r.kcr_timb},       {"kcr laminated", r.kcr_lam},
-        {"kcr kerto", r.kcr_kerto},       {"kcr k_bjelke", r.kcr_k_bjelke}};
-    for (const auto& [name, value] : factors) {
-        if (!(value > 0.1F)) {
-            notes.unusable.push_back(r.annex + ": " + name);
-        }
-    }
-    const auto in = [](int v, int low, int high) { return v >= low && v <= high; };
-    const std::pair<const char*, bool> choices[] = {{"safety class", in(r.safety_class, 1, 3)},
-                                                    {"psi0 of Q1", in(r.psi0_1_index, 0, 8)},
-                                                    {"psi0 of Q2", in(r.psi0_2_index, 0, 8)},
-                                                    {"psi2 of Q1", in(r.psi2_1_index, 0, 10)},
-                                                    {"psi2 of Q2", in(r.psi2_2_index, 0, 10)}};
-    for (const auto& [name, ok] : choices) {
-        if (!ok) {
-            notes.unusable.push_back(r.annex + ": " + name);
-        }
-    }
-}
-
 } // namespace
 
 FileDatabase ReadSetupFile(std::string_view text, std::int16_t decimal_comma, ReadNotes& notes)
@@ -138,7 +113,9 @@ FileDatabase ReadSetupFile(std::string_view text, std::int16_t decimal_comma, Re
         r.psi0_2_index = whole(c, 13, decimal_comma);
         r.psi2_1_index = whole(c, 14, decimal_comma);
         r.psi2_2_index = whole(c, 15, decimal_comma);
-        check_row(r, notes);
+        for (const std::string& field : unusable_fields(r)) {
+            notes.unusable.push_back(r.annex + ": " + field);
+        }
     }
     db.setup_last_row = static_cast<std::int16_t>(counter - 1);
     return db;
@@ -172,6 +149,33 @@ bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const st
 {
     const std::string text = SetupFileText(db, decimal_comma);
     return !replace_file(path, std::as_bytes(std::span(text.data(), text.size())));
+}
+
+std::vector<std::string> unusable_fields(const SetupRow& r)
+{
+    std::vector<std::string> names;
+    const std::pair<const char*, float> factors[] = {
+        {"gamma_M timber", r.gamma_timb}, {"gamma_M laminated", r.gamma_lam},
+        {"gamma_M kerto", r.gamma_kerto}, {"gamma_M k_bjelke", r.gamma_k_bjelke},
+        {"kcr timber", r.kcr_timb},       {"kcr laminated", r.kcr_lam},
+        {"kcr kerto", r.kcr_kerto},       {"kcr k_bjelke", r.kcr_k_bjelke}};
+    for (const auto& [name, value] : factors) {
+        if (!(value > 0.1F)) {
+            names.emplace_back(name);
+        }
+    }
+    const auto in = [](int v, int low, int high) { return v >= low && v <= high; };
+    const std::pair<const char*, bool> choices[] = {{"safety class", in(r.safety_class, 1, 3)},
+                                                    {"psi0 of Q1", in(r.psi0_1_index, 0, 8)},
+                                                    {"psi0 of Q2", in(r.psi0_2_index, 0, 8)},
+                                                    {"psi2 of Q1", in(r.psi2_1_index, 0, 10)},
+                                                    {"psi2 of Q2", in(r.psi2_2_index, 0, 10)}};
+    for (const auto& [name, ok] : choices) {
+        if (!ok) {
+            names.emplace_back(name);
+        }
+    }
+    return names;
 }
 
 void ApplySetupRow(Model& m)

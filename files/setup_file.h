@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kvelder {
 
@@ -23,6 +24,10 @@ std::string SetupFileText(const FileDatabase& db, std::int16_t decimal_comma);
 // Writes the setup file in one step: a new file replaces the old one only when
 // it is complete. False when it could not be written; the old file then stands.
 bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const std::filesystem::path& path);
+
+// The fields of an annex row that no calculation can use: a partial factor or
+// kcr of 0.1 or less, a class or psi position outside its list.
+std::vector<std::string> unusable_fields(const SetupRow& row);
 
 // From the setup in the model to the language, the annex, the title and the
 // active factors. A selected row that the table does not hold falls back to row 0.

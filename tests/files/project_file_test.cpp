@@ -490,6 +490,19 @@ TEST_F(DamagedProject, SelectionsOutsideTheirCataloguesAreRefused)
     f = decode_project(good);
     f.prof_type_index = 4;
     EXPECT_EQ(open_damaged(encode_project(f)).kind, ProjectFailure::Kind::NotAProject);
+
+    // The rows in use must hold numbers a calculation can use; other rows need not.
+    f = decode_project(good);
+    f.materials.rows[static_cast<std::size_t>(f.material_row)].fvk = 0.0F;
+    EXPECT_NE(open_damaged(encode_project(f)).detail.find("no usable fv,k"), std::string::npos);
+    f = decode_project(good);
+    f.setup.setup_table[static_cast<std::size_t>(f.setup.setup_row)].gamma_lam = 0.0F;
+    EXPECT_NE(open_damaged(encode_project(f)).detail.find("gamma_M laminated"), std::string::npos);
+    f = decode_project(good);
+    f.materials.rows[0].fmk = 0.0F;
+    f.setup.setup_table[10].kcr_timb = 0.0F;
+    LoadDialogs d;
+    EXPECT_FALSE(ReadProjectBytes(*m, encode_project(f), d));
 }
 
 TEST(ProjectFile, CountsOfRowsBeyondATableStopAtTheTable)
