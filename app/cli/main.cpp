@@ -15,6 +15,7 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
@@ -109,7 +110,8 @@ const char* table_name(LoadTable t)
 
 // The beam ready for its recalculation: start-up, the description, and every
 // check that typing it into the window would run. The failed checks' messages.
-std::vector<Message> prepare(Model& m, const Options& o)
+// The program as it starts: the data folder's files and the example beam.
+void start(Model& m, const Options& o)
 {
     const fs::path data_dir = o.data_dir.value_or(installed_data_dir());
     if (o.data_dir && !fs::is_directory(data_dir)) {
@@ -118,6 +120,11 @@ std::vector<Message> prepare(Model& m, const Options& o)
     for (const DataFileNote& note : start_up(m, data_dir)) {
         std::cerr << "kvelder-cli: " << message_line(data_file_message(m.language, note)) << '\n';
     }
+}
+
+std::vector<Message> prepare(Model& m, const Options& o)
+{
+    start(m, o);
     if (o.input && is_project(*o.input)) {
         read_project(m, *o.input);
     } else if (o.input) {
@@ -184,28 +191,37 @@ int save(const Options& o)
     return kCalculated;
 }
 
+// The data a project brings along.
+struct OwnData {
+    MaterialTable materials;
+    ProfileTable profiles;
+    std::array<SetupRow, FileDatabase::kRows> annexes;
+
+    explicit OwnData(const Model& m)
+        : materials(m.material_table), profiles(m.profile_table), annexes(m.setup.setup_table)
+    {
+        // The classes and psi values of the selected row are in the description.
+        for (SetupRow& r : annexes) {
+            r.safety_class = r.psi0_1_index = r.psi0_2_index = r.psi2_1_index = r.psi2_2_index = 0;
+        }
+    }
+};
+
 // Names the data the project carries that differs from the data folder's:
 // a description of the beam refers to the folder's rows.
-void note_own_data(const Model& folder, const Model& project)
+void note_own_data(const OwnData& folder, const OwnData& project)
 {
     const auto note = [](const char* what) {
         std::cerr << "kvelder-cli: the project carries its own " << what
                   << "; the description refers to the rows of the data folder's\n";
     };
-    if (folder.material_table != project.material_table) {
+    if (folder.materials != project.materials) {
         note("material catalogue");
     }
-    if (folder.profile_table != project.profile_table) {
+    if (folder.profiles != project.profiles) {
         note("profile catalogue");
     }
-    // The classes and psi values of the selected row are in the description.
-    const auto factors_only = [](FileDatabase db) {
-        for (SetupRow& r : db.setup_table) {
-            r.safety_class = r.psi0_1_index = r.psi0_2_index = r.psi2_1_index = r.psi2_2_index = 0;
-        }
-        return db.setup_table;
-    };
-    if (factors_only(folder.setup) != factors_only(project.setup)) {
+    if (folder.annexes != project.annexes) {
         note("setup table");
     }
 }
@@ -213,12 +229,10 @@ void note_own_data(const Model& folder, const Model& project)
 int dump(const Options& o)
 {
     auto m = std::make_unique<Model>();
-    Options start_only = o;
-    start_only.input.reset();
-    prepare(*m, start_only);
-    const auto folder = std::make_unique<Model>(*m);
+    start(*m, o);
+    const OwnData folder(*m);
     read_project(*m, *o.input);
-    note_own_data(*folder, *m);
+    note_own_data(folder, OwnData(*m));
     std::cout << cli::describe_beam(*m).dump(2) << '\n';
     return kCalculated;
 }
