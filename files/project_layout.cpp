@@ -301,7 +301,8 @@ void check_project(ProjectFile& f)
 
     within(f.material_row, 0, f.materials.last_row, "the material row");
     within(f.prof_type_index, 0, 3, "the profile family");
-    const std::vector<ProfileRow>& family = SplitProfileFamilies(f.profiles).of(f.prof_type_index);
+    const ProfileFamilies families = SplitProfileFamilies(f.profiles);
+    const std::vector<ProfileRow>& family = families.of(f.prof_type_index);
     const int listed = static_cast<int>(family.size());
     within(f.prof_index, 0, is_true(p.standard_section) ? listed - 1 : ProfileTable::kRows - 1,
            "the profile row");
