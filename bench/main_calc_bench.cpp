@@ -3,7 +3,7 @@
 // 0.1 ms or less, the worst case in 2 ms or less.
 
 #include "files/start_values.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 
 #include <benchmark/benchmark.h>
 

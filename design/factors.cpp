@@ -11,16 +11,35 @@ const char* family_code(int prof_type_index)
     return codes.at(static_cast<std::size_t>(prof_type_index));
 }
 
+std::optional<float> kfi_of(const std::string& a, int c)
+{
+    if (a == "Nor" && (c == 1 || c == 2)) {
+        return c == 1 ? 0.9F : 1.0F;
+    }
+    if (a == "Swe" && c >= 1 && c <= 3) {
+        return std::array{0.83F, 0.91F, 1.0F}[static_cast<std::size_t>(c - 1)];
+    }
+    if ((a == "Fin" || a == "Den") && c >= 1 && c <= 3) {
+        return std::array{0.9F, 1.0F, 1.1F}[static_cast<std::size_t>(c - 1)];
+    }
+    return std::nullopt;
+}
+
+float psi0_of(int index)
+{
+    return f32((index + 2) * 0.1);
+}
+
+float psi2_of(int index)
+{
+    return f32(index * 0.1);
+}
+
 void Calc_load_factors(Model& m)
 {
     const std::string& a = m.annex;
-    const int c = m.safety_class;
-    if (a == "Nor" && (c == 1 || c == 2)) {
-        m.kfi = c == 1 ? 0.9F : 1.0F;
-    } else if (a == "Swe" && c >= 1 && c <= 3) {
-        m.kfi = std::array{0.83F, 0.91F, 1.0F}[static_cast<std::size_t>(c - 1)];
-    } else if ((a == "Fin" || a == "Den") && c >= 1 && c <= 3) {
-        m.kfi = std::array{0.9F, 1.0F, 1.1F}[static_cast<std::size_t>(c - 1)];
+    if (const std::optional<float> kfi = kfi_of(a, m.safety_class)) {
+        m.kfi = *kfi;
     }
 
     const double psi0_1 = m.psi0_1;

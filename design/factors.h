@@ -2,6 +2,9 @@
 
 #include "model/model.h"
 
+#include <optional>
+#include <string>
+
 namespace kvelder {
 
 // The factors of the current annex, classes, material family and section, in
@@ -23,6 +26,15 @@ void Calc_kcr(Model& m);
 void Calc_kmod(Model& m);
 void Calc_kh(Model& m);
 void Calc_gamma_M(Model& m);
+
+// The safety factor of a class in an annex: Norway's reliability classes,
+// Sweden's safety classes and the classes of Finland and Denmark. None where
+// the annex has no such class.
+std::optional<float> kfi_of(const std::string& annex, int safety_class);
+
+// psi0 from its position in the list 0.2 .. 1.0, psi2 from its position in 0.0 .. 1.0.
+float psi0_of(int index);
+float psi2_of(int index);
 
 // Material family codes, blank-padded to ten characters as the model keeps them.
 inline constexpr const char* kTimber = "tre_bjelke";

@@ -1,7 +1,7 @@
 #include "drawing/beam_plot.h"
 
 #include "drawing/glyphs.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 namespace kvelder {
 namespace {

@@ -1,7 +1,7 @@
 #include "drawing/load_plot.h"
 
 #include "drawing/glyphs.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 #include <algorithm>
 
@@ -186,18 +186,8 @@ BandBases band_bases(const LoadGroup& g, float y, float height, float gap)
 void PlotLoadFactors(PlotSurface& surface, const Model& m, LoadGroupId group, float x, float y)
 {
     const bool a = m.comb_rule == "610a";
-    float sls = 0, uls = 0;
-    switch (group) {
-    case LoadGroupId::G:
-        sls = m.creep_G, uls = a ? m.gamma_G_a : m.gamma_G_b;
-        break;
-    case LoadGroupId::Q1:
-        sls = m.creep_Q1, uls = a ? m.gamma_Q1_a : m.gamma_Q1_b;
-        break;
-    case LoadGroupId::Q2:
-        sls = m.creep_Q2, uls = a ? m.gamma_Q2_a : m.gamma_Q2_b;
-        break;
-    }
+    const GroupFactors f = factors_of(m, group);
+    const float sls = f.creep, uls = a ? f.gamma_a : f.gamma_b;
     surface.SetFontName("Arial");
     surface.SetFontSize(9);
     PrintAt(surface, x, y + 90, caption(m, group));

@@ -2,7 +2,7 @@
 
 #include "drawing/plot_surface.h"
 #include "model/model.h"
-#include "ui/load_checks.h"
+#include "model/load_rows.h"
 
 namespace kvelder {
 

@@ -3,7 +3,7 @@
 #include "drawing/glyphs.h"
 #include "drawing/load_plot.h"
 #include "drawing/result_plot.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 namespace kvelder {
 namespace {
@@ -55,12 +55,8 @@ const char* paper_caption(const Model& m, LoadGroupId group)
 void print_factors(PlotSurface& s, const Model& m, LoadGroupId group, float x, float y)
 {
     const bool a = m.comb_rule == "610a";
-    const float sls = group == LoadGroupId::G    ? m.creep_G
-                      : group == LoadGroupId::Q1 ? m.creep_Q1
-                                                 : m.creep_Q2;
-    const float uls = group == LoadGroupId::G    ? (a ? m.gamma_G_a : m.gamma_G_b)
-                      : group == LoadGroupId::Q1 ? (a ? m.gamma_Q1_a : m.gamma_Q1_b)
-                                                 : (a ? m.gamma_Q2_a : m.gamma_Q2_b);
+    const GroupFactors f = factors_of(m, group);
+    const float sls = f.creep, uls = a ? f.gamma_a : f.gamma_b;
     ink(s, "Times New Roman", 8, false);
     PrintAt(s, x + 65, y, "SLS:");
     PrintAt(s, x + 72, y, number(m, sls, "##0.00"));

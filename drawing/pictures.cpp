@@ -5,25 +5,6 @@
 
 namespace kvelder {
 
-const char* picture_name(ScreenPicture p)
-{
-    switch (p) {
-    case ScreenPicture::Picfelt:
-        return "Picfelt";
-    case ScreenPicture::Picegenlast:
-        return "Picegenlast";
-    case ScreenPicture::Picnyttelast:
-        return "Picnyttelast";
-    case ScreenPicture::Picnyttelast_2:
-        return "Picnyttelast_2";
-    case ScreenPicture::Picresult:
-        return "Picresult";
-    case ScreenPicture::Picdisp:
-        break;
-    }
-    return "Picdisp";
-}
-
 void PlotAllLoads(PlotSurface& egenlast, PlotSurface& nyttelast, PlotSurface& nyttelast_2, const Model& m)
 {
     LoadPlotState state;

@@ -3,15 +3,9 @@
 #include "drawing/load_plot.h"
 #include "drawing/plot_surface.h"
 #include "model/model.h"
+#include "model/picture.h"
 
 namespace kvelder {
-
-// The six pictures of the main window, by the names of their boxes.
-enum class ScreenPicture { Picfelt, Picegenlast, Picnyttelast, Picnyttelast_2, Picresult, Picdisp };
-inline constexpr ScreenPicture kScreenPictures[] = {
-    ScreenPicture::Picfelt,        ScreenPicture::Picegenlast, ScreenPicture::Picnyttelast,
-    ScreenPicture::Picnyttelast_2, ScreenPicture::Picresult,   ScreenPicture::Picdisp};
-const char* picture_name(ScreenPicture p);
 
 // The three load pictures from a clean start: the beam to scale with G, then
 // Q1 and Q2, each group's bands only when it holds a load. Nothing but the

@@ -1,7 +1,7 @@
 #include "drawing/result_plot.h"
 
 #include "drawing/glyphs.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 #include <cmath>
 

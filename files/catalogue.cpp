@@ -39,8 +39,7 @@ float number_at(const std::vector<std::string>& columns, std::size_t c, std::int
     if (c >= columns.size()) {
         return 0.0F;
     }
-    std::string text = columns[c];
-    return TextToNumber(text, decimal_comma).value_or(0.0F);
+    return TextToNumber(columns[c], decimal_comma).value.value_or(0.0F);
 }
 
 // Names each field that is not above 0.

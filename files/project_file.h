@@ -29,9 +29,9 @@ struct ProjectFailure {
 // Opens a project: the whole file is read and checked before anything of it
 // is used, so on failure the model, its catalogues and setup, and `dialogs` are
 // exactly as they were. On success the catalogues and setup of the file replace
-// those of the model and the beam follows (see ModelFromRecord). A span of no
-// length or supports that cannot carry the beam raise their flags, so the next
-// recalculation stops at its gate; loading_flag is left set for that run to clear.
+// those of the model and the beam follows (see ModelFromRecord); loading_flag is
+// left set for the recalculation that follows to clear. The window's checks of
+// spans and supports are the caller's (open_project).
 std::optional<ProjectFailure> ReadProject(Model& m, const std::filesystem::path& path, LoadDialogs& dialogs);
 
 // The same from the bytes of a file; why they are no project, if they are not.

@@ -3,9 +3,8 @@
 #include "analysis/points.h"
 #include "design/section.h"
 #include "files/catalogue.h"
+#include "files/number_format.h"
 #include "files/setup_file.h"
-#include "ui/input_checks.h"
-#include "ui/number_format.h"
 
 #include <cmath>
 
@@ -20,26 +19,43 @@ template <typename T, int N> void to_slots(const Table<T, N>& t, int rows, Slots
     }
 }
 
+// The count and the slots of one table of a record, span first.
+struct RecordTable {
+    std::int16_t& count;
+    std::array<Slots*, 5> slots;
+};
+
+RecordTable table_of(LoadRecord& r, LoadTable table)
+{
+    switch (table) {
+    case LoadTable::Uniform:
+        return {r.uni_n, {&r.uni_span, &r.uni_q}};
+    case LoadTable::Trapezoid:
+        return {r.trap_n, {&r.trap_span, &r.trap_q1, &r.trap_q2, &r.trap_a, &r.trap_b}};
+    case LoadTable::Point:
+        return {r.pt_n, {&r.pt_span, &r.pt_P, &r.pt_a}};
+    case LoadTable::Moment:
+        break;
+    }
+    return {r.mom_n, {&r.mom_span, &r.mom_M, &r.mom_a}};
+}
+
 LoadRecord load_record(const LoadGroup& g)
 {
     LoadRecord r;
-    r.uni_n = g.uni_n;
-    to_slots(g.uni_span, g.uni_n, r.uni_span);
-    to_slots(g.uni_q, g.uni_n, r.uni_q);
-    r.trap_n = g.trap_n;
-    to_slots(g.trap_span, g.trap_n, r.trap_span);
-    to_slots(g.trap_q1, g.trap_n, r.trap_q1);
-    to_slots(g.trap_q2, g.trap_n, r.trap_q2);
-    to_slots(g.trap_a, g.trap_n, r.trap_a);
-    to_slots(g.trap_b, g.trap_n, r.trap_b);
-    r.pt_n = g.pt_n;
-    to_slots(g.pt_span, g.pt_n, r.pt_span);
-    to_slots(g.pt_P, g.pt_n, r.pt_P);
-    to_slots(g.pt_a, g.pt_n, r.pt_a);
-    r.mom_n = g.mom_n;
-    to_slots(g.mom_span, g.mom_n, r.mom_span);
-    to_slots(g.mom_M, g.mom_n, r.mom_M);
-    to_slots(g.mom_a, g.mom_n, r.mom_a);
+    for (LoadTable table : kLoadTables) {
+        const RecordTable t = table_of(r, table);
+        const int n = row_count(g, table);
+        t.count = static_cast<std::int16_t>(n);
+        for (int k = 1; k <= n; ++k) {
+            const LoadRow row_k = row(g, table, k);
+            (*t.slots[0])[static_cast<std::size_t>(k)] = static_cast<float>(row_k.span);
+            for (int v = 0; v < value_count(table); ++v) {
+                (*t.slots[static_cast<std::size_t>(v + 1)])[static_cast<std::size_t>(k)] =
+                    row_k.values[static_cast<std::size_t>(v)];
+            }
+        }
+    }
     return r;
 }
 
@@ -57,49 +73,33 @@ float at(const Slots& s, int k)
 
 // One group's rows into the model and its dialog. `moment_spans` false keeps
 // the model's moment span numbers and gives the point rows theirs again.
-void restore_group(const LoadRecord& r, LoadGroup& g, LoadDialogTexts& dialog, bool moment_spans,
+void restore_group(const LoadRecord& record, LoadGroup& g, LoadDialogTexts& dialog, bool moment_spans,
                    bool decimal_comma)
 {
-    const auto span_text = [](float v) { return format_number(v, "0"); };
-    const auto value_text = [decimal_comma](float v) { return format_number(v, "0.00", decimal_comma); };
+    LoadRecord r = record;
     dialog = LoadDialogTexts{};
-
-    g.uni_n = r.uni_n;
-    for (int k = 1; k <= r.uni_n; ++k) {
-        g.uni_span(k) = span_number(at(r.uni_span, k));
-        g.uni_q(k) = at(r.uni_q, k);
-        dialog.frames[0].push_back({span_text(at(r.uni_span, k)), value_text(g.uni_q(k))});
-    }
-    g.trap_n = r.trap_n;
-    for (int k = 1; k <= r.trap_n; ++k) {
-        g.trap_span(k) = span_number(at(r.trap_span, k));
-        g.trap_q1(k) = at(r.trap_q1, k);
-        g.trap_q2(k) = at(r.trap_q2, k);
-        g.trap_a(k) = at(r.trap_a, k);
-        g.trap_b(k) = at(r.trap_b, k);
-        dialog.frames[1].push_back({span_text(at(r.trap_span, k)), value_text(g.trap_q1(k)),
-                                    value_text(g.trap_q2(k)), value_text(g.trap_a(k)),
-                                    value_text(g.trap_b(k))});
-    }
-    g.pt_n = r.pt_n;
-    for (int k = 1; k <= r.pt_n; ++k) {
-        g.pt_span(k) = span_number(at(r.pt_span, k));
-        g.pt_P(k) = at(r.pt_P, k);
-        g.pt_a(k) = at(r.pt_a, k);
-        dialog.frames[2].push_back(
-            {span_text(at(r.pt_span, k)), value_text(g.pt_P(k)), value_text(g.pt_a(k))});
-    }
-    g.mom_n = r.mom_n;
-    for (int k = 1; k <= r.mom_n; ++k) {
-        if (moment_spans) {
-            g.mom_span(k) = span_number(at(r.mom_span, k));
-        } else {
-            g.pt_span(k) = span_number(at(r.pt_span, k));
+    for (LoadTable table : kLoadTables) {
+        const RecordTable t = table_of(r, table);
+        const auto f = static_cast<std::size_t>(table);
+        set_row_count(g, table, t.count);
+        for (int k = 1; k <= t.count; ++k) {
+            LoadRow stored = row(g, table, k);
+            RowTexts texts;
+            const float span = at(*t.slots[0], k);
+            texts[0] = format_number(span, "0");
+            if (table != LoadTable::Moment || moment_spans) {
+                stored.span = span_number(span);
+            } else {
+                g.pt_span(k) = span_number(at(r.pt_span, k));
+            }
+            for (int v = 0; v < value_count(table); ++v) {
+                const auto slot = static_cast<std::size_t>(v + 1);
+                stored.values[slot - 1] = at(*t.slots[slot], k);
+                texts[slot] = format_number(stored.values[slot - 1], "0.00", decimal_comma);
+            }
+            set_row(g, table, k, stored);
+            dialog.frames[f].push_back(texts);
         }
-        g.mom_M(k) = at(r.mom_M, k);
-        g.mom_a(k) = at(r.mom_a, k);
-        dialog.frames[3].push_back(
-            {span_text(at(r.mom_span, k)), value_text(g.mom_M(k)), value_text(g.mom_a(k))});
     }
 }
 
@@ -198,12 +198,6 @@ void ModelFromRecord(Model& m, const ProjectFile& file, LoadDialogs& dialogs)
     const bool no_loads = m.G.empty() && m.Q1.empty() && m.Q2.empty();
     m.err_load_item = flag_of(no_loads && m.profile_weight_on != kTrue);
     build_calculation_grids(m);
-
-    // A span of no length or supports that cannot carry the beam must stop the
-    // next recalculation at its gate, as they would had they been typed in.
-    std::optional<Message> ignored;
-    check_spans(m, ignored);
-    check_supports(m);
 }
 
 void SectionFromRecord(Model& m, const ProjectFile& file)

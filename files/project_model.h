@@ -1,15 +1,12 @@
 #pragma once
 
 #include "files/project_record.h"
+#include "model/load_dialogs.h"
 #include "model/model.h"
-#include "ui/load_checks.h"
 
 #include <array>
 
 namespace kvelder {
-
-// The rows of the three load dialogs (G, Q1, Q2) as a project fills them.
-using LoadDialogs = std::array<LoadDialogTexts, 3>;
 
 // Saving: the beam and its loads, then the section and design options, into a
 // record that starts from zero. The setup block takes the active factors into

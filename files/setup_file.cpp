@@ -1,5 +1,6 @@
 #include "files/setup_file.h"
 
+#include "design/factors.h"
 #include "files/replace_file.h"
 #include "files/text_lines.h"
 #include "files/text_number.h"
@@ -21,20 +22,18 @@ std::string column(const std::vector<std::string>& columns, std::size_t c)
 
 float number(const std::vector<std::string>& columns, std::size_t c, std::int16_t decimal_comma)
 {
-    std::string text = column(columns, c);
-    return TextToNumber(text, decimal_comma).value_or(0.0F);
+    return TextToNumber(column(columns, c), decimal_comma).value.value_or(0.0F);
 }
 
 std::int16_t whole(const std::vector<std::string>& columns, std::size_t c, std::int16_t decimal_comma)
 {
-    std::string text = column(columns, c);
-    return TextToInt16(text, decimal_comma).value_or(0);
+    return TextToInt16(column(columns, c), decimal_comma).value.value_or(0);
 }
 
 // A boolean as the file writes it ("True", "False") or as a number.
 std::int16_t boolean(const std::vector<std::string>& columns, std::size_t c, std::int16_t decimal_comma)
 {
-    std::string text = column(columns, c);
+    const std::string text = column(columns, c);
     std::string lower;
     std::transform(text.begin(), text.end(), std::back_inserter(lower),
                    [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
@@ -45,7 +44,7 @@ std::int16_t boolean(const std::vector<std::string>& columns, std::size_t c, std
     if (lower.rfind("false", 0) == 0) {
         return kFalse;
     }
-    return flag_of(TextToNumber(text, decimal_comma).value_or(0.0F) != 0.0F);
+    return flag_of(TextToNumber(text, decimal_comma).value.value_or(0.0F) != 0.0F);
 }
 
 std::string float_text(float v, std::int16_t decimal_comma)
@@ -57,15 +56,6 @@ std::string float_text(float v, std::int16_t decimal_comma)
         std::replace(text.begin(), text.end(), '.', ',');
     }
     return text;
-}
-
-float psi0_of(std::int16_t index)
-{
-    return f32((index + 2) * 0.1);
-}
-float psi2_of(std::int16_t index)
-{
-    return f32(index * 0.1);
 }
 
 // Names the values of an annex row that the setup dialog would refuse: factors

@@ -75,11 +75,8 @@ void NewProjectHeading(Model& m)
     m.id_s = eng ? "Beam 1" : "Bjelk 1";
 }
 
-std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder)
+void StartProject(Model& m)
 {
-    m.decimal_comma = DecimalProbe();
-    std::vector<DataFileNote> notes = ReadDataFiles(m, data_folder);
-    ApplySetupRow(m);
     m.loading_flag = kTrue;
     StartBeam(m);
     StartLoads(m);
@@ -87,6 +84,14 @@ std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_f
     NewProjectHeading(m);
     m.nf_previous = m.nf;
     build_calculation_grids(m);
+}
+
+std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder)
+{
+    m.decimal_comma = DecimalProbe();
+    std::vector<DataFileNote> notes = ReadDataFiles(m, data_folder);
+    ApplySetupRow(m);
+    StartProject(m);
     return notes;
 }
 

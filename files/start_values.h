@@ -20,6 +20,10 @@ void StartSection(Model& m);
 // of the setup.
 void NewProjectHeading(Model& m);
 
+// The example beam of a new project on the catalogues and setup in the model,
+// its heading and grids, ready for its first recalculation with loading_flag set.
+void StartProject(Model& m);
+
 // The start of the program without its window: the decimal separator, the
 // setup and the catalogues of `data_folder`, the example beam and its grids.
 // The model is left ready for its first recalculation, with loading_flag set.

@@ -88,27 +88,30 @@ std::int16_t DecimalProbe()
     }
 }
 
-std::optional<float> TextToNumber(std::string& text, std::int16_t decimal_comma)
+Converted<float> TextToNumber(std::string_view typed, std::int16_t decimal_comma)
 {
-    if (text.empty()) {
-        return 0.0F;
+    if (typed.empty()) {
+        return {0.0F, {}};
     }
-    text.erase(0, std::min(text.find_first_not_of(" \t"), text.size()));
+    std::string text(typed.substr(std::min(typed.find_first_not_of(" \t"), typed.size())));
     if (decimal_comma != 0) {
         std::replace(text.begin(), text.end(), '.', ',');
-        return to_single(whole_number(text));
+        std::optional<float> value = to_single(whole_number(text));
+        return {value, std::move(text)};
     }
     std::replace(text.begin(), text.end(), ',', '.');
-    return to_single(leading_number(text));
+    std::optional<float> value = to_single(leading_number(text));
+    return {value, std::move(text)};
 }
 
-std::optional<std::int16_t> TextToInt16(std::string& text, std::int16_t decimal_comma)
+Converted<std::int16_t> TextToInt16(std::string_view typed, std::int16_t decimal_comma)
 {
-    const std::optional<float> v = TextToNumber(text, decimal_comma);
+    Converted<float> number = TextToNumber(typed, decimal_comma);
+    const std::optional<float> v = number.value;
     if (!v || !(*v >= -32768.5F && *v < 32767.5F)) {
-        return std::nullopt;
+        return {std::nullopt, std::move(number.text)};
     }
-    return static_cast<std::int16_t>(std::nearbyint(*v));
+    return {static_cast<std::int16_t>(std::nearbyint(*v)), std::move(number.text)};
 }
 
 } // namespace kvelder

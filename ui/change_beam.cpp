@@ -1,36 +1,29 @@
 #include "ui/change_beam.h"
 
+#include "files/text_number.h"
 #include "ui/input_checks.h"
+#include "ui/load_checks.h"
 
 namespace kvelder {
 namespace {
 
-// Keeps the rows 1..n whose span is on the beam, packed in their order.
-template <typename... Columns> std::int16_t keep_rows(std::int16_t n, int nf, auto& span, Columns&... columns)
+// Empties the rows of a dialog that stand on a span the beam no longer has;
+// the others keep their places.
+void empty_rows_beyond(LoadDialogTexts& dialog, int nf, std::int16_t decimal_comma)
 {
-    std::int16_t kept = 0;
-    for (int k = 1; k <= n; ++k) {
-        if (span(k) > nf) {
-            continue;
+    for (std::vector<RowTexts>& frame : dialog.frames) {
+        for (RowTexts& row : frame) {
+            const std::optional<std::int16_t> span = TextToInt16(row[0], decimal_comma).value;
+            if (!row[0].empty() && span && *span > nf) {
+                row = RowTexts{};
+            }
         }
-        ++kept;
-        span(kept) = span(k);
-        ((columns(kept) = columns(k)), ...);
     }
-    return kept;
-}
-
-void drop_rows_beyond(LoadGroup& g, int nf)
-{
-    g.uni_n = keep_rows(g.uni_n, nf, g.uni_span, g.uni_q);
-    g.trap_n = keep_rows(g.trap_n, nf, g.trap_span, g.trap_q1, g.trap_q2, g.trap_a, g.trap_b);
-    g.pt_n = keep_rows(g.pt_n, nf, g.pt_span, g.pt_P, g.pt_a);
-    g.mom_n = keep_rows(g.mom_n, nf, g.mom_span, g.mom_M, g.mom_a);
 }
 
 } // namespace
 
-std::optional<Message> ChangeBeam(Model& m)
+std::optional<Message> ChangeBeam(Model& m, LoadDialogs& dialogs)
 {
     m.nnodes = static_cast<std::int16_t>(m.nf + 1);
     m.nsup = m.nnodes;
@@ -41,8 +34,10 @@ std::optional<Message> ChangeBeam(Model& m)
     m.nsupRight_s = kSimple;
     const std::optional<Message> message = check_supports(m);
     if (m.nf < m.nf_previous) {
-        for (LoadGroup* g : {&m.G, &m.Q1, &m.Q2}) {
-            drop_rows_beyond(*g, m.nf);
+        for (LoadGroupId id : kLoadGroups) {
+            LoadDialogTexts& dialog = dialogs[static_cast<std::size_t>(id)];
+            empty_rows_beyond(dialog, m.nf, m.decimal_comma);
+            ReadRows(m, id, dialog);
         }
     }
     m.err_load_item = kFalse;

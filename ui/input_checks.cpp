@@ -40,14 +40,13 @@ std::optional<Message> check_box(const Model& m, Box box, float value, int span)
     return std::nullopt;
 }
 
-std::optional<int> check_spans(Model& m, std::optional<Message>& message)
+std::optional<SpanFailure> check_spans(Model& m)
 {
     m.err_spans = kFalse;
     for (int i = 1; i <= m.nf; ++i) {
         if (!(m.ffl_s(i) > 0)) {
             m.err_spans = kTrue;
-            message = span_length_missing(m.language);
-            return i;
+            return SpanFailure{i, span_length_missing(m.language)};
         }
     }
     return std::nullopt;
@@ -73,9 +72,9 @@ std::vector<Message> check_all_boxes(Model& m)
             messages.push_back(*message);
         }
     };
-    std::optional<Message> span_message;
-    check_spans(m, span_message);
-    add(span_message);
+    if (const auto failure = check_spans(m)) {
+        messages.push_back(failure->message);
+    }
     add(check_supports(m));
     if (m.section_form == "Tube") {
         add(check_box(m, Box::Diameter, m.section_d));

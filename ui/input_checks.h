@@ -25,9 +25,15 @@ enum class Box {
 // `span` is the span of an l_stag box, whose length is the upper limit.
 std::optional<Message> check_box(const Model& m, Box box, float value, int span = 0);
 
+// The first span without a length, whose box takes the focus, and its message.
+struct SpanFailure {
+    int span;
+    Message message;
+};
+
 // Spans 1..nf in order: the first that is not longer than 0 sets err_spans and
-// gives its message; otherwise err_spans is cleared. The span, where one failed.
-std::optional<int> check_spans(Model& m, std::optional<Message>& message);
+// fails; otherwise err_spans is cleared.
+std::optional<SpanFailure> check_spans(Model& m);
 
 // The restraint table for the end supports as they stand. Too few restraints
 // set err_supports and give the message; enough clear it.

@@ -1,7 +1,8 @@
 #include "ui/load_checks.h"
 
+#include "files/number_format.h"
 #include "files/text_number.h"
-#include "ui/number_format.h"
+#include "ui/messages.h"
 
 #include <algorithm>
 #include <span>
@@ -64,21 +65,6 @@ int box_of(int code)
     default:
         return 0;
     }
-}
-
-int stored_rows(const LoadGroup& g, LoadTable table)
-{
-    switch (table) {
-    case LoadTable::Uniform:
-        return std::clamp<int>(g.uni_n, 0, LoadGroup::kUniRows);
-    case LoadTable::Trapezoid:
-        return std::clamp<int>(g.trap_n, 0, LoadGroup::kTrapRows);
-    case LoadTable::Point:
-        return std::clamp<int>(g.pt_n, 0, LoadGroup::kPointRows);
-    case LoadTable::Moment:
-        break;
-    }
-    return std::clamp<int>(g.mom_n, 0, LoadGroup::kMomentRows);
 }
 
 // Whether an earlier row e of the table has `same(e)`.
@@ -205,27 +191,12 @@ bool fails(const Model& m, const LoadGroup& g, LoadTable table, int k, int code,
     return moment_fails(m, g, k, code);
 }
 
-int span_of(const LoadGroup& g, LoadTable table, int k)
-{
-    switch (table) {
-    case LoadTable::Uniform:
-        return g.uni_span(k);
-    case LoadTable::Trapezoid:
-        return g.trap_span(k);
-    case LoadTable::Point:
-        return g.pt_span(k);
-    case LoadTable::Moment:
-        break;
-    }
-    return g.mom_span(k);
-}
-
 std::optional<LoadRowFailure> check_row(const Model& m, LoadGroupId id, LoadTable table, int k,
                                         bool gap_before)
 {
     const LoadGroup& g = group_of(m, id);
     // A span number below 1 is refused before any code reads its length.
-    if (span_of(g, table, k) < 1) {
+    if (row(g, table, k).span < 1) {
         return LoadRowFailure{id, table, k, 0, kSpanNotPositive};
     }
     for (int code : order(id, table)) {
@@ -236,63 +207,7 @@ std::optional<LoadRowFailure> check_row(const Model& m, LoadGroupId id, LoadTabl
     return std::nullopt;
 }
 
-void clear_table(LoadGroup& g, LoadTable table)
-{
-    const LoadGroup empty;
-    switch (table) {
-    case LoadTable::Uniform:
-        g.uni_n = 0, g.uni_span = empty.uni_span, g.uni_q = empty.uni_q;
-        break;
-    case LoadTable::Trapezoid:
-        g.trap_n = 0, g.trap_span = empty.trap_span, g.trap_q1 = empty.trap_q1, g.trap_q2 = empty.trap_q2;
-        g.trap_a = empty.trap_a, g.trap_b = empty.trap_b;
-        break;
-    case LoadTable::Point:
-        g.pt_n = 0, g.pt_span = empty.pt_span, g.pt_P = empty.pt_P, g.pt_a = empty.pt_a;
-        break;
-    case LoadTable::Moment:
-        g.mom_n = 0, g.mom_span = empty.mom_span, g.mom_M = empty.mom_M, g.mom_a = empty.mom_a;
-        break;
-    }
-}
-
-// Stores the converted boxes of one row as row k of a table.
-void store_row(LoadGroup& g, LoadTable table, int k, std::int16_t span, const std::array<float, 4>& v)
-{
-    switch (table) {
-    case LoadTable::Uniform:
-        g.uni_n = static_cast<std::int16_t>(k), g.uni_span(k) = span, g.uni_q(k) = v[0];
-        break;
-    case LoadTable::Trapezoid:
-        g.trap_n = static_cast<std::int16_t>(k), g.trap_span(k) = span;
-        g.trap_q1(k) = v[0], g.trap_q2(k) = v[1], g.trap_a(k) = v[2], g.trap_b(k) = v[3];
-        break;
-    case LoadTable::Point:
-        g.pt_n = static_cast<std::int16_t>(k), g.pt_span(k) = span, g.pt_P(k) = v[0], g.pt_a(k) = v[1];
-        break;
-    case LoadTable::Moment:
-        g.mom_n = static_cast<std::int16_t>(k), g.mom_span(k) = span, g.mom_M(k) = v[0], g.mom_a(k) = v[1];
-        break;
-    }
-}
-
-constexpr std::array<LoadTable, 4> kTables{LoadTable::Uniform, LoadTable::Trapezoid, LoadTable::Point,
-                                           LoadTable::Moment};
-constexpr std::array<int, 4> kValueBoxes{1, 4, 2, 2};
-constexpr std::array<int, 4> kCapacity{LoadGroup::kUniRows, LoadGroup::kTrapRows, LoadGroup::kPointRows,
-                                       LoadGroup::kMomentRows};
-
 } // namespace
-
-LoadGroup& group_of(Model& m, LoadGroupId id)
-{
-    return id == LoadGroupId::G ? m.G : id == LoadGroupId::Q1 ? m.Q1 : m.Q2;
-}
-
-const LoadGroup& group_of(const Model& m, LoadGroupId id)
-{
-    return id == LoadGroupId::G ? m.G : id == LoadGroupId::Q1 ? m.Q1 : m.Q2;
-}
 
 std::optional<Message> failure_message(const std::string& language, const LoadRowFailure& failure)
 {
@@ -309,7 +224,7 @@ std::optional<Message> failure_message(const std::string& language, const LoadRo
 
 std::optional<LoadRowFailure> check_load_table(const Model& m, LoadGroupId id, LoadTable table)
 {
-    const int n = stored_rows(group_of(m, id), table);
+    const int n = row_count(group_of(m, id), table);
     for (int k = 1; k <= n; ++k) {
         if (auto failure = check_row(m, id, table, k, false)) {
             return failure;
@@ -321,8 +236,8 @@ std::optional<LoadRowFailure> check_load_table(const Model& m, LoadGroupId id, L
 std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts& texts)
 {
     LoadGroup& g = group_of(m, id);
-    for (std::size_t f = 0; f < kTables.size(); ++f) {
-        const LoadTable table = kTables[f];
+    for (std::size_t f = 0; f < kLoadTables.size(); ++f) {
+        const LoadTable table = kLoadTables[f];
         clear_table(g, table);
         int count = 0;
         bool gap_before = false;
@@ -331,22 +246,27 @@ std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts
                 gap_before = true;
                 continue;
             }
-            if (count == kCapacity[f]) {
+            if (count == capacity(table)) {
                 break; // a dialog holds no more rows than its table
             }
             ++count;
-            std::array<float, 4> values{};
-            const std::optional<std::int16_t> span = TextToInt16(row[0], m.decimal_comma);
-            std::optional<int> bad_box = span ? std::nullopt : std::optional<int>(0);
-            for (int b = 1; b <= kValueBoxes[f] && !bad_box; ++b) {
-                const auto v = TextToNumber(row[static_cast<std::size_t>(b)], m.decimal_comma);
-                if (v) {
-                    values[static_cast<std::size_t>(b - 1)] = *v;
+            LoadRow stored;
+            Converted<std::int16_t> span = TextToInt16(row[0], m.decimal_comma);
+            row[0] = std::move(span.text);
+            stored.span = span.value.value_or(0);
+            std::optional<int> bad_box = span.value ? std::nullopt : std::optional<int>(0);
+            for (int b = 1; b <= value_count(table) && !bad_box; ++b) {
+                std::string& box = row[static_cast<std::size_t>(b)];
+                Converted<float> v = TextToNumber(box, m.decimal_comma);
+                box = std::move(v.text);
+                if (v.value) {
+                    stored.values[static_cast<std::size_t>(b - 1)] = *v.value;
                 } else {
                     bad_box = b;
                 }
             }
-            store_row(g, table, count, span.value_or(0), values);
+            set_row(g, table, count, stored);
+            set_row_count(g, table, count);
             if (bad_box) {
                 return LoadRowFailure{id, table, count, *bad_box, kNotANumber};
             }
@@ -358,25 +278,47 @@ std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts
     return std::nullopt;
 }
 
+LoadDialogTexts dialog_texts(const LoadGroup& g, std::int16_t decimal_comma)
+{
+    LoadDialogTexts texts;
+    for (LoadTable table : kLoadTables) {
+        for (int k = 1; k <= row_count(g, table); ++k) {
+            const LoadRow r = row(g, table, k);
+            RowTexts boxes;
+            boxes[0] = format_number(r.span, "0");
+            for (int v = 0; v < value_count(table); ++v) {
+                boxes[static_cast<std::size_t>(v + 1)] =
+                    format_number(r.values[static_cast<std::size_t>(v)], "0.00", decimal_comma != 0);
+            }
+            texts.frames[static_cast<std::size_t>(table)].push_back(boxes);
+        }
+    }
+    return texts;
+}
+
+void CompactRows(LoadDialogTexts& texts)
+{
+    for (std::vector<RowTexts>& frame : texts.frames) {
+        std::erase_if(frame, [](const RowTexts& row) { return row[0].empty(); });
+    }
+}
+
 void ClipLoadsToSpans(const Model& m, LoadDialogTexts& texts)
 {
     // Frame and box of the position that must lie inside the span.
     constexpr std::array<std::pair<std::size_t, std::size_t>, 3> starts{{{1, 3}, {2, 2}, {3, 2}}};
     for (const auto& [frame, box] : starts) {
         for (RowTexts& row : texts.frames[frame]) {
-            std::string span_text = row[0];
-            const std::optional<std::int16_t> span = TextToInt16(span_text, m.decimal_comma);
+            const std::optional<std::int16_t> span = TextToInt16(row[0], m.decimal_comma).value;
             if (row[0].empty() || !span || *span < 1 || *span > m.nf) {
                 continue;
             }
             const float L = m.ffl_s(*span);
-            std::string start_text = row[box];
-            if (TextToNumber(start_text, m.decimal_comma).value_or(0) >= L) {
+            if (TextToNumber(row[box], m.decimal_comma).value.value_or(0) >= L) {
                 row[0].clear();
                 continue;
             }
-            std::string end_text = row[4];
-            if (frame == 1 && TextToNumber(end_text, m.decimal_comma).value_or(0) > L) {
+            if (frame == 1 && TextToNumber(row[4], m.decimal_comma).value.value_or(0) > L) {
                 row[4] = format_number(L, "0.000", m.decimal_comma != 0);
             }
         }

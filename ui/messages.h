@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/data_files.h"
+#include "model/message.h"
 
 #include <optional>
 #include <string>
@@ -8,15 +9,6 @@
 namespace kvelder {
 
 struct ProjectFailure;
-
-// One message box: its number (0 for the messages that have none), title and text.
-struct Message {
-    int code = 0;
-    std::string title;
-    std::string text;
-
-    friend bool operator==(const Message&, const Message&) = default;
-};
 
 // The numbered message of `code` in a language ("Eng" or "Nor"); none where that
 // language has no entry for the code.

@@ -1,7 +1,7 @@
 #include "ui/result_columns.h"
 
 #include "design/section_checks.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 #include <array>
 

@@ -1,13 +1,14 @@
 #include "app/cli/beam_description.h"
 
-#include "design/factors.h"
-#include "design/section.h"
-#include "files/setup_file.h"
-#include "ui/change_beam.h"
+#include "model/load_rows.h"
+#include "ui/edits.h"
+#include "ui/load_checks.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
+#include <stdexcept>
 #include <optional>
 #include <string_view>
 
@@ -15,6 +16,12 @@ namespace kvelder::cli {
 namespace {
 
 using nlohmann::json;
+
+// Thrown and caught within this file only: the first key that cannot be used.
+class DescriptionError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 [[noreturn]] void fail(const std::string& key, const std::string& what)
 {
@@ -105,59 +112,42 @@ std::int16_t psi_index(const json& v, const std::string& key, int offset)
     return static_cast<std::int16_t>(index);
 }
 
-// One group's load rows: uniform [span, q], trapezoid [span, q1, q2, a, b],
-// point [span, P, a], moment [span, M, a].
+// One group's load rows, as typed into its dialog and confirmed: uniform
+// [span, q], trapezoid [span, q1, q2, a, b], point [span, P, a], moment [span, M, a].
 void loads_into(const json& v, const std::string& key, LoadGroup& g)
 {
     if (!v.is_object()) {
         fail(key, "must be an object of load tables");
     }
     g = LoadGroup{};
+    constexpr std::array<const char*, 4> kinds{"uni", "trap", "pt", "mom"};
     for (const auto& [kind, rows] : v.items()) {
         const std::string where = key + "." + kind;
-        int capacity = 0;
-        std::size_t width = 0;
-        if (kind == "uni") {
-            capacity = LoadGroup::kUniRows, width = 2;
-        } else if (kind == "trap") {
-            capacity = LoadGroup::kTrapRows, width = 5;
-        } else if (kind == "pt") {
-            capacity = LoadGroup::kPointRows, width = 3;
-        } else if (kind == "mom") {
-            capacity = LoadGroup::kMomentRows, width = 3;
-        } else {
+        const auto named = std::find(kinds.begin(), kinds.end(), kind);
+        if (named == kinds.end()) {
             fail(where, "is no load table (uni, trap, pt or mom)");
         }
+        const auto table = static_cast<LoadTable>(named - kinds.begin());
+        const auto width = static_cast<std::size_t>(value_count(table) + 1);
         if (!rows.is_array()) {
             fail(where, "must be a list of rows");
         }
-        if (static_cast<int>(rows.size()) > capacity) {
-            fail(where, "holds at most " + std::to_string(capacity) + " rows");
+        if (static_cast<int>(rows.size()) > capacity(table)) {
+            fail(where, "holds at most " + std::to_string(capacity(table)) + " rows");
         }
         for (std::size_t r = 0; r < rows.size(); ++r) {
             const std::string row_key = where + "[" + std::to_string(r) + "]";
             if (!rows[r].is_array() || rows[r].size() != width) {
                 fail(row_key, "must be a row of " + std::to_string(width) + " numbers");
             }
-            const auto span = static_cast<std::int16_t>(integer(rows[r][0], row_key + "[0]", -32768, 32767));
-            std::array<float, 4> x{};
+            LoadRow row;
+            row.span = static_cast<std::int16_t>(integer(rows[r][0], row_key + "[0]", -32768, 32767));
             for (std::size_t c = 1; c < width; ++c) {
-                x[c - 1] = number(rows[r][c], row_key);
+                row.values[c - 1] = number(rows[r][c], row_key);
             }
-            const int k = static_cast<int>(r + 1);
-            if (kind == "uni") {
-                g.uni_n = static_cast<std::int16_t>(k), g.uni_span(k) = span, g.uni_q(k) = x[0];
-            } else if (kind == "trap") {
-                g.trap_n = static_cast<std::int16_t>(k), g.trap_span(k) = span;
-                g.trap_q1(k) = x[0], g.trap_q2(k) = x[1], g.trap_a(k) = x[2], g.trap_b(k) = x[3];
-            } else if (kind == "pt") {
-                g.pt_n = static_cast<std::int16_t>(k), g.pt_span(k) = span, g.pt_P(k) = x[0],
-                g.pt_a(k) = x[1];
-            } else {
-                g.mom_n = static_cast<std::int16_t>(k), g.mom_span(k) = span, g.mom_M(k) = x[0],
-                g.mom_a(k) = x[1];
-            }
+            set_row(g, table, static_cast<int>(r + 1), row);
         }
+        set_row_count(g, table, static_cast<int>(rows.size()));
     }
 }
 
@@ -188,34 +178,32 @@ std::optional<std::int16_t> chosen_row(const json& d, const char* index_key, con
     fail(name_key, unknown + " \"" + name + "\"");
 }
 
-void select_setup_row(Model& m, const json& d)
+
+void choose_setup(Model& m, const json& d)
 {
     const auto annex_of = [&m](int r) { return m.setup.setup_table[static_cast<std::size_t>(r)].annex; };
     if (const auto row = chosen_row(d, "setup_row", "annex", m.setup.setup_last_row, annex_of,
                                     "no row of the setup file has the code")) {
-        m.setup.setup_row = *row;
+        choose_annex_row(m, *row);
     }
     if (d.contains("language")) {
-        m.setup.setup_language = text(d["language"], "language", {"Eng", "Nor"});
+        choose_language(m, text(d["language"], "language", {"Eng", "Nor"}) == "Eng" ? "Eng" : "Nor");
     }
-    ApplySetupRow(m);
     if (d.contains("safety_class")) {
-        m.safety_class = static_cast<std::int16_t>(integer(d["safety_class"], "safety_class", 1, 3));
+        choose_safety_class(m, integer(d["safety_class"], "safety_class", 1, 3));
     }
-    const std::array<std::pair<const char*, int>, 4> psis{
-        {{"psi0_1", 2}, {"psi0_2", 2}, {"psi2_1", 0}, {"psi2_2", 0}}};
-    const std::array<std::int16_t*, 4> indexes{&m.psi0_1_index, &m.psi0_2_index, &m.psi2_1_index,
-                                               &m.psi2_2_index};
-    const std::array<float*, 4> values{&m.psi0_1, &m.psi0_2, &m.psi2_1, &m.psi2_2};
-    for (std::size_t k = 0; k < psis.size(); ++k) {
-        if (d.contains(psis[k].first)) {
-            *indexes[k] = psi_index(d[psis[k].first], psis[k].first, psis[k].second);
-            *values[k] = f32((*indexes[k] + psis[k].second) * 0.1);
+    constexpr std::array<std::pair<const char*, PsiList>, 4> psis{{{"psi0_1", PsiList::Psi0_Q1},
+                                                                   {"psi0_2", PsiList::Psi0_Q2},
+                                                                   {"psi2_1", PsiList::Psi2_Q1},
+                                                                   {"psi2_2", PsiList::Psi2_Q2}}};
+    for (const auto& [key, list] : psis) {
+        if (d.contains(key)) {
+            choose_psi(m, list, psi_index(d[key], key, psi_list_size(list) == 9 ? 2 : 0));
         }
     }
 }
 
-void set_geometry(Model& m, const json& d)
+void choose_geometry(Model& m, const json& d, LoadDialogs& dialogs)
 {
     if (d.contains("nf") && !d.contains("ffl_s")) {
         fail("nf", "needs \"ffl_s\" with its span lengths");
@@ -226,92 +214,79 @@ void set_geometry(Model& m, const json& d)
         if (nf < 1 || nf > kMaxSpans) {
             fail("ffl_s", "must be a list of 1 to 5 span lengths");
         }
-        m.nf = static_cast<std::int16_t>(nf);
-        m.ffl_s.fill(0);
-        numbers_into(d["ffl_s"], "ffl_s", static_cast<std::size_t>(nf), m.ffl_s);
-        ChangeBeam(m);
+        Table<float, kMaxSpans> lengths;
+        numbers_into(d["ffl_s"], "ffl_s", static_cast<std::size_t>(nf), lengths);
+        choose_span_count(m, nf, dialogs);
+        for (int i = 1; i <= nf; ++i) {
+            set_span_length(m, i, lengths(i), dialogs);
+        }
         m.lef_factor.fill(0.9F);
     }
     for (int k = 1; k <= kMaxSpans; ++k) {
         m.l_stag(k) = m.ffl_s(k);
     }
-    const auto support = [&](const char* key) { return text(d[key], key, {"F", "R", "I"}).front(); };
-    if (d.contains("nsupLeft_s")) {
-        m.nsupLeft_s = support("nsupLeft_s");
+    for (const auto& [key, end] : {std::pair{"nsupLeft_s", BeamEnd::Left}, std::pair{"nsupRight_s", BeamEnd::Right}}) {
+        if (d.contains(key)) {
+            choose_support(m, end, text(d[key], key, {"F", "R", "I"}).front(), dialogs);
+        }
     }
-    if (d.contains("nsupRight_s")) {
-        m.nsupRight_s = support("nsupRight_s");
-    }
-    m.support_kind(1) = m.nsupLeft_s;
-    m.support_kind(m.nnodes) = m.nsupRight_s;
 }
 
-void set_material_and_section(Model& m, const json& d)
+void choose_section(Model& m, const json& d)
 {
     const auto name_of = [&m](int r) { return m.material_table.rows[static_cast<std::size_t>(r)].name; };
     if (const auto row = chosen_row(d, "material_row", "material", m.material_table.last_row, name_of,
                                     "the material catalogue has no class")) {
-        m.material_row = *row;
+        choose_material(m, *row);
     }
-
     if (d.contains("prof_type_index")) {
-        m.prof_type_index = static_cast<std::int16_t>(integer(d["prof_type_index"], "prof_type_index", 0, 3));
-        m.material_family = family_code(m.prof_type_index);
-        m.section_form = "Firk";
-    }
-    if (d.contains("prof_index")) {
-        m.prof_index = static_cast<std::int16_t>(integer(d["prof_index"], "prof_index", 0, 400));
+        choose_family(m, integer(d["prof_type_index"], "prof_type_index", 0, 3));
     }
     const bool free_rectangle = d.contains("section_b") || d.contains("section_h");
-    if (!free_rectangle && (d.contains("prof_type_index") || d.contains("prof_index"))) {
+    const bool circle =
+        d.contains("section_form") && text(d["section_form"], "section_form", {"Firk", "Tube"}) == "Tube";
+    if (d.contains("prof_index")) {
         const int count = static_cast<int>(m.profile_families.of(m.prof_type_index).size());
-        if (m.prof_index >= count) {
-            fail(d.contains("prof_index") ? "prof_index" : "prof_type_index",
-                 "the profile list of this family has " + std::to_string(count) + " rows");
+        const int index = integer(d["prof_index"], "prof_index", 0, 400);
+        if (index >= count) {
+            fail("prof_index", "the profile list of this family has " + std::to_string(count) + " rows");
         }
-        Read_profile_dimensions(m, m.prof_type_index, m.prof_index);
-        m.standard_section = kTrue;
+        choose_profile(m, index);
+        if (!free_rectangle && !circle && section_option_enabled(m, SectionOption::Standard)) {
+            choose_section_option(m, SectionOption::Standard);
+        }
     }
-    if (free_rectangle) {
-        m.standard_section = kFalse;
+    if (free_rectangle || (d.contains("section_form") && !circle && m.section_form == "Tube")) {
+        choose_section_option(m, SectionOption::Rectangle);
     }
-    if (d.contains("section_b")) {
-        m.section_b = number(d["section_b"], "section_b");
-    }
-    if (d.contains("section_h")) {
-        m.section_h = number(d["section_h"], "section_h");
-    }
-    if (d.contains("section_d")) {
-        m.section_d = number(d["section_d"], "section_d");
-    }
-    if (d.contains("section_form")) {
-        m.section_form = text(d["section_form"], "section_form", {"Firk", "Tube"});
-        if (m.section_form == "Tube" && m.prof_type_index >= 2) {
+    if (circle) {
+        if (!section_option_enabled(m, SectionOption::Circle)) {
             fail("section_form", "a kerto or k_bjelke beam is rectangular");
         }
-        if (m.section_form == "Tube") {
-            m.standard_section = kFalse; // a circle is never a catalogue section
+        choose_section_option(m, SectionOption::Circle);
+    }
+    for (const auto& [key, box] : {std::pair{"section_b", Box::Width}, std::pair{"section_h", Box::Height},
+                                   std::pair{"section_d", Box::Diameter}}) {
+        if (d.contains(key)) {
+            set_section_size(m, box, number(d[key], key));
         }
     }
 }
 
-void set_classes_and_checks(Model& m, const json& d)
+void choose_classes_and_checks(Model& m, const json& d)
 {
     if (d.contains("duration_class")) {
-        m.duration_class = static_cast<std::int16_t>(integer(d["duration_class"], "duration_class", 1, 5));
+        choose_duration_class(m, integer(d["duration_class"], "duration_class", 1, 5));
     }
     if (d.contains("service_class")) {
-        const int highest = m.prof_type_index >= 2 ? 2 : 3; // kerto and k_bjelke are not made for class 3
-        m.service_class = static_cast<std::int16_t>(integer(d["service_class"], "service_class", 1, highest));
+        const int highest = service_class_enabled(m, 3) ? 3 : 2;
+        choose_service_class(m, integer(d["service_class"], "service_class", 1, highest));
     }
     if (d.contains("ksys")) {
-        m.ksys = number(d["ksys"], "ksys");
+        set_ksys(m, number(d["ksys"], "ksys"));
     }
-    if (d.contains("vipping_off")) {
-        m.vipping_off = flag_of(boolean(d["vipping_off"], "vipping_off"));
-    }
-    if (m.section_form == "Tube") {
-        m.vipping_off = kTrue; // a circle has no lateral buckling check
+    if (d.contains("vipping_off") && buckling_check_enabled(m)) {
+        set_buckling_check(m, !boolean(d["vipping_off"], "vipping_off"));
     }
     if (d.contains("l_stag")) {
         numbers_into(d["l_stag"], "l_stag", static_cast<std::size_t>(m.nf), m.l_stag);
@@ -322,40 +297,42 @@ void set_classes_and_checks(Model& m, const json& d)
     if (d.contains("load_location")) {
         m.load_location = static_cast<std::int16_t>(integer(d["load_location"], "load_location", 0, 1));
     }
-    if (d.contains("bearing_length")) {
-        numbers_into(d["bearing_length"], "bearing_length", static_cast<std::size_t>(m.nnodes),
-                     m.bearing_length);
-    }
-    if (d.contains("bearing_kc90")) {
-        numbers_into(d["bearing_kc90"], "bearing_kc90", static_cast<std::size_t>(m.nnodes), m.bearing_kc90);
+    for (const auto& [key, box] :
+         {std::pair{"bearing_length", Box::BearingLength}, std::pair{"bearing_kc90", Box::Kc90}}) {
+        if (d.contains(key)) {
+            Table<float, kMaxNodes> values;
+            numbers_into(d[key], key, static_cast<std::size_t>(m.nnodes), values);
+            for (int node = 1; node <= m.nnodes; ++node) {
+                set_bearing(m, node, box, values(node));
+            }
+        }
     }
 }
 
-void set_loads_and_modes(Model& m, const json& d)
+void choose_loads_and_modes(Model& m, const json& d)
 {
     if (d.contains("G") || d.contains("Q1") || d.contains("Q2")) {
-        for (const char* key : {"G", "Q1", "Q2"}) {
-            LoadGroup& g = key[0] == 'G' ? m.G : key[1] == '1' ? m.Q1 : m.Q2;
-            g = LoadGroup{};
+        for (LoadGroupId id : kLoadGroups) {
+            const char* key = group_name(id);
+            group_of(m, id) = LoadGroup{};
             if (d.contains(key)) {
-                loads_into(d[key], key, g);
+                loads_into(d[key], key, group_of(m, id));
             }
         }
     }
     if (d.contains("profile_weight_on")) {
-        m.profile_weight_on = flag_of(boolean(d["profile_weight_on"], "profile_weight_on"));
+        set_self_weight(m, boolean(d["profile_weight_on"], "profile_weight_on"));
     }
     if (d.contains("loadcomb_option")) {
-        m.loadcomb_option = static_cast<std::int16_t>(integer(d["loadcomb_option"], "loadcomb_option", 1, 2));
+        choose_load_combination(m, integer(d["loadcomb_option"], "loadcomb_option", 1, 2));
     }
     if (d.contains("comb_rule")) {
-        m.comb_rule = text(d["comb_rule"], "comb_rule", {"610a", "610b"});
+        choose_comb_rule(m, text(d["comb_rule"], "comb_rule", {"610a", "610b"}) == "610a" ? "610a" : "610b");
     }
 }
 
-} // namespace
-
-void apply_description(Model& m, const json& d)
+// The description in the order an engineer would click through the window.
+void apply(Model& m, const json& d)
 {
     if (!d.is_object()) {
         throw DescriptionError("the beam description must be a JSON object");
@@ -373,11 +350,29 @@ void apply_description(Model& m, const json& d)
             (key[0] == 'p' ? m.prosjekt_s : m.id_s) = d[key].get<std::string>();
         }
     }
-    select_setup_row(m, d);
-    set_geometry(m, d);
-    set_material_and_section(m, d);
-    set_classes_and_checks(m, d);
-    set_loads_and_modes(m, d);
+    LoadDialogs dialogs;
+    for (LoadGroupId id : kLoadGroups) {
+        dialogs[static_cast<std::size_t>(id)] = dialog_texts(group_of(m, id), m.decimal_comma);
+    }
+    choose_setup(m, d);
+    choose_geometry(m, d, dialogs);
+    choose_section(m, d);
+    choose_classes_and_checks(m, d);
+    choose_loads_and_modes(m, d);
+}
+
+} // namespace
+
+std::optional<std::string> apply_description(Model& m, const json& description)
+{
+    auto work = std::make_unique<Model>(m);
+    try {
+        apply(*work, description);
+    } catch (const DescriptionError& e) {
+        return e.what();
+    }
+    m = *work;
+    return std::nullopt;
 }
 
 } // namespace kvelder::cli

@@ -4,22 +4,19 @@
 
 #include <nlohmann/json.hpp>
 
-#include <stdexcept>
+#include <optional>
 #include <string>
 
 namespace kvelder::cli {
 
-// A description that cannot be applied: malformed, an unknown key, a wrong type
-// or a value outside what the program can hold. The text names the key.
-class DescriptionError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-// Applies a beam description to a model fresh from start-up. Keys missing from
-// the description keep the example beam's values. Values that the program's own
-// checks judge (span lengths, section sizes, ksys, bearing and buckling data,
-// load rows) are taken as they are, for those checks to refuse.
-void apply_description(Model& m, const nlohmann::json& description);
+// Applies a beam description to a model fresh from start-up, through the same
+// control rules as the window, in the order an engineer would click them. Keys
+// missing from the description keep the example beam's values. Values that the
+// program's own checks judge (span lengths, section sizes, ksys, bearing and
+// buckling data, load rows) are taken as they are, for those checks to refuse.
+// A description that cannot be applied (malformed, an unknown key, a wrong type
+// or a value outside what the program can hold) changes nothing and gives the
+// reason, naming the key.
+std::optional<std::string> apply_description(Model& m, const nlohmann::json& description);
 
 } // namespace kvelder::cli

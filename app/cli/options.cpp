@@ -80,7 +80,9 @@ bool is_description(const std::filesystem::path& path)
     return has_extension(path, ".json");
 }
 
-Options parse(const std::vector<std::string>& args)
+namespace {
+
+Options parse_or_stop(const std::vector<std::string>& args)
 {
     if (args.empty() || args[0] == "--help" || args[0] == "-h") {
         throw Stop{args.empty() ? kUsageError : kCalculated, ""};
@@ -128,6 +130,17 @@ Options parse(const std::vector<std::string>& args)
     }
     check_input(o);
     return o;
+}
+
+} // namespace
+
+std::variant<Options, Stop> parse(const std::vector<std::string>& args)
+{
+    try {
+        return parse_or_stop(args);
+    } catch (const Stop& stop) {
+        return stop;
+    }
 }
 
 } // namespace kvelder::cli

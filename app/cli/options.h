@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace kvelder::cli {
@@ -25,7 +26,8 @@ struct Options {
     std::string command; // "calc", "save", "dump", "plot" or "bench"
     std::optional<std::filesystem::path> input;
     std::optional<std::filesystem::path> output; // the project file of "save", the folder of "plot"
-    std::optional<std::filesystem::path> data_dir;
+    std::optional<std::filesystem::path> data_dir; // as given by --data-dir
+    std::filesystem::path installed_data_dir;     // the data folder without --data-dir
     bool text = false;
     int runs = 1000;
     int width = 800, height = 300; // pixels of each picture of "plot"
@@ -35,7 +37,7 @@ struct Options {
 bool is_project(const std::filesystem::path& path);
 bool is_description(const std::filesystem::path& path);
 
-// The command line after the program's name; throws Stop when it cannot be used.
-Options parse(const std::vector<std::string>& args);
+// The command line after the program's name, or why it cannot be used.
+std::variant<Options, Stop> parse(const std::vector<std::string>& args);
 
 } // namespace kvelder::cli

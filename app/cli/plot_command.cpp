@@ -4,60 +4,63 @@
 
 #include <QImage>
 #include <QString>
+#include <QtGlobal>
 
 #include <array>
-#include <cstdlib>
+#include <optional>
 #include <memory>
 #include <string>
-#include <unistd.h>
 
 namespace kvelder::cli {
 
 void choose_headless_platform()
 {
-    if (std::getenv("QT_QPA_PLATFORM") == nullptr && std::getenv("DISPLAY") == nullptr &&
-        std::getenv("WAYLAND_DISPLAY") == nullptr) {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+#ifndef Q_OS_WIN
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
+        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     // Qt wants a private runtime folder and complains on stderr without one.
-    if (std::getenv("XDG_RUNTIME_DIR") == nullptr) {
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
         std::error_code ec;
-        const std::filesystem::path runtime =
-            std::filesystem::temp_directory_path(ec) / ("kvelder-runtime-" + std::to_string(getuid()));
+        const std::filesystem::path runtime = std::filesystem::temp_directory_path(ec) /
+                                              ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
         std::filesystem::create_directory(runtime, ec);
         std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
         if (!ec) {
-            setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
+            qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.string()));
         }
     }
+#endif
 }
 
-std::string write_pictures(const Model& m, const std::filesystem::path& folder, int width, int height)
+std::optional<std::string> write_pictures(const Model& m, const std::filesystem::path& folder, int width,
+                                          int height)
 {
     std::error_code ec;
     std::filesystem::create_directories(folder, ec);
     if (!std::filesystem::is_directory(folder)) {
         return folder.string() + ": no folder can be made there";
     }
-    std::array<QImage, std::size(kScreenPictures)> images;
+    std::array<QImage, std::size(kPictures)> images;
     for (QImage& image : images) {
         image = QImage(width, height, QImage::Format_RGB32);
         image.fill(Qt::white);
     }
     {
-        std::array<std::unique_ptr<PlotSurface>, std::size(kScreenPictures)> s;
+        std::array<std::unique_ptr<PlotSurface>, std::size(kPictures)> s;
         for (std::size_t k = 0; k < images.size(); ++k) {
             s[k] = std::make_unique<PlotSurface>(images[k]);
         }
         PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m);
     }
     for (std::size_t k = 0; k < images.size(); ++k) {
-        const std::filesystem::path file = folder / (std::string(picture_name(kScreenPictures[k])) + ".png");
+        const std::filesystem::path file = folder / (std::string(picture_name(kPictures[k])) + ".png");
         if (!images[k].save(QString::fromStdString(file.string()), "PNG")) {
             return file.string() + ": cannot be written";
         }
     }
-    return {};
+    return std::nullopt;
 }
 
 } // namespace kvelder::cli

@@ -1,7 +1,7 @@
 // kvelder-cli from the outside: what it prints and how it exits.
 
 #include "app/cli/result_json.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>

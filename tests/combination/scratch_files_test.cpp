@@ -3,7 +3,7 @@
 
 #include "analysis/points.h"
 #include "files/byte_record.h"
-#include "model/run_analysis.h"
+#include "recalc/run_analysis.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>

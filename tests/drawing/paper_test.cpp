@@ -3,7 +3,7 @@
 
 #include "drawing/paper_plot.h"
 #include "drawing/plot_scale.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 
 #include <QFile>

@@ -5,7 +5,7 @@
 #include "drawing/load_sketches.h"
 #include "drawing/pictures.h"
 #include "files/project_file.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 #include "tests/support/damaged_projects.h"
 #include "ui/input_checks.h"
@@ -38,7 +38,7 @@ struct Pictures {
         PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m);
     }
 
-    const QImage& operator[](ScreenPicture p) const { return images[static_cast<std::size_t>(p)]; }
+    const QImage& operator[](Picture p) const { return images[static_cast<std::size_t>(p)]; }
 };
 
 // Text is smoothed: its pixels are near its colour rather than on it.
@@ -110,19 +110,19 @@ TEST(Pictures, ACantileverOfOneSpan)
         EXPECT_EQ(count(image, Qt::magenta), 0) << "every picture is cleared first";
     }
     // The beam body lies at 10 % in Picegenlast, the band of G just above 20 %.
-    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBeamRed, 9, 12), kWidth / 2);
-    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 20, 31), kWidth * 10);
+    EXPECT_GT(count(p[Picture::Picegenlast], kBeamRed, 9, 12), kWidth / 2);
+    EXPECT_GT(count(p[Picture::Picegenlast], kBandGrey, 20, 31), kWidth * 10);
     // Q1's one point load: an arrow, no band.
-    EXPECT_EQ(count(p[ScreenPicture::Picnyttelast], kBandGrey), 0);
-    EXPECT_GT(count(p[ScreenPicture::Picnyttelast], kInk, 10, 22), 20);
+    EXPECT_EQ(count(p[Picture::Picnyttelast], kBandGrey), 0);
+    EXPECT_GT(count(p[Picture::Picnyttelast], kInk, 10, 22), 20);
     // Q2 is empty: a clean picture.
-    EXPECT_EQ(count(p[ScreenPicture::Picnyttelast_2], Qt::white), kWidth * kHeight);
+    EXPECT_EQ(count(p[Picture::Picnyttelast_2], Qt::white), kWidth * kHeight);
     // Hogging all along, which is drawn above the moment axis at 75 %.
-    EXPECT_GT(count(p[ScreenPicture::Picresult], kGreen, 76, 100), 100);
-    EXPECT_EQ(count(p[ScreenPicture::Picresult], kCurveBlue, 50, 74), 0);
+    EXPECT_GT(count(p[Picture::Picresult], kGreen, 76, 100), 100);
+    EXPECT_EQ(count(p[Picture::Picresult], kCurveBlue, 50, 74), 0);
     // The free end hangs down: the deflection curve runs below its axis at 60 %.
-    EXPECT_GT(count(p[ScreenPicture::Picdisp], kCurveBlue, 25, 60), 100);
-    EXPECT_GT(count_if(p[ScreenPicture::Picdisp], reddish), 20); // "= L / " and its ratio
+    EXPECT_GT(count(p[Picture::Picdisp], kCurveBlue, 25, 60), 100);
+    EXPECT_GT(count_if(p[Picture::Picdisp], reddish), 20); // "= L / " and its ratio
 }
 
 TEST(Pictures, ThreeSpansWithEveryKindOfLoad)
@@ -130,24 +130,24 @@ TEST(Pictures, ThreeSpansWithEveryKindOfLoad)
     const auto m = calculated(loaded_beam());
     const Pictures p(*m);
     // G: uniform band at 20 %, trapezoid above it, point and moment above that.
-    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 20, 30), 1000);
-    EXPECT_GT(count(p[ScreenPicture::Picegenlast], kBandGrey, 37, 48), 100);
-    EXPECT_GT(count_if(p[ScreenPicture::Picegenlast], bluish), 50); // the values
+    EXPECT_GT(count(p[Picture::Picegenlast], kBandGrey, 20, 30), 1000);
+    EXPECT_GT(count(p[Picture::Picegenlast], kBandGrey, 37, 48), 100);
+    EXPECT_GT(count_if(p[Picture::Picegenlast], bluish), 50); // the values
     // Q1 and Q2 both draw their bands from 10 %.
-    EXPECT_GT(count(p[ScreenPicture::Picnyttelast], kBandGrey, 10, 22), 1000);
-    EXPECT_GT(count(p[ScreenPicture::Picnyttelast_2], kBandGrey, 10, 22), 100);
+    EXPECT_GT(count(p[Picture::Picnyttelast], kBandGrey, 10, 22), 1000);
+    EXPECT_GT(count(p[Picture::Picnyttelast_2], kBandGrey, 10, 22), 100);
     // The axes: moment at 75 %, shear at 29 %, deflection at 60 %.
-    EXPECT_GT(line_at(p[ScreenPicture::Picresult], 75), kWidth * 9 / 10);
-    EXPECT_GT(line_at(p[ScreenPicture::Picresult], 29), kWidth * 9 / 10);
-    EXPECT_GT(line_at(p[ScreenPicture::Picdisp], 60), kWidth * 9 / 10);
+    EXPECT_GT(line_at(p[Picture::Picresult], 75), kWidth * 9 / 10);
+    EXPECT_GT(line_at(p[Picture::Picresult], 29), kWidth * 9 / 10);
+    EXPECT_GT(line_at(p[Picture::Picdisp], 60), kWidth * 9 / 10);
     // Both envelopes of both diagrams, and the crossings in red.
-    EXPECT_GT(count(p[ScreenPicture::Picresult], kGreen), 200);
-    EXPECT_GT(count(p[ScreenPicture::Picresult], kCurveBlue), 200);
-    EXPECT_GT(count_if(p[ScreenPicture::Picresult], reddish), 20);
-    EXPECT_GT(count(p[ScreenPicture::Picdisp], kLightGreen) + count(p[ScreenPicture::Picdisp], kCurveBlue),
+    EXPECT_GT(count(p[Picture::Picresult], kGreen), 200);
+    EXPECT_GT(count(p[Picture::Picresult], kCurveBlue), 200);
+    EXPECT_GT(count_if(p[Picture::Picresult], reddish), 20);
+    EXPECT_GT(count(p[Picture::Picdisp], kLightGreen) + count(p[Picture::Picdisp], kCurveBlue),
               200);
     // The span sketch: three columns of 16 % from 10 %, the rest of the width empty.
-    const QImage& felt = p[ScreenPicture::Picfelt];
+    const QImage& felt = p[Picture::Picfelt];
     EXPECT_GT(count(felt, kBeamRed, 84, 87), 100);
     for (int x = static_cast<int>(kWidth * 0.60); x < kWidth; ++x) {
         ASSERT_NE(felt.pixelColor(x, static_cast<int>(kHeight * 0.145)), kBeamRed) << x;
@@ -163,9 +163,9 @@ TEST(Pictures, NothingToScaleStillDrawsWhatItCan)
     RecordingScreen screen;
     MainCalc(*none, screen, scratch_folder());
     const Pictures empty(*none);
-    EXPECT_GT(count(empty[ScreenPicture::Picegenlast], kBeamRed), 100); // the beam
-    EXPECT_GT(count(empty[ScreenPicture::Picresult], kInk), 100);       // the axes
-    EXPECT_EQ(count(empty[ScreenPicture::Picresult], kCurveBlue), 0);
+    EXPECT_GT(count(empty[Picture::Picegenlast], kBeamRed), 100); // the beam
+    EXPECT_GT(count(empty[Picture::Picresult], kInk), 100);       // the axes
+    EXPECT_EQ(count(empty[Picture::Picresult], kCurveBlue), 0);
 
     // A load row of no value, and a span of no length.
     auto zero = example_beam();
@@ -173,11 +173,11 @@ TEST(Pictures, NothingToScaleStillDrawsWhatItCan)
     zero->G.uni_q(2) = 0.0F;
     zero->ffl_s(2) = 0.0F;
     const Pictures odd(*zero);
-    EXPECT_EQ(count(odd[ScreenPicture::Picegenlast], kBandGrey), 0);
+    EXPECT_EQ(count(odd[Picture::Picegenlast], kBandGrey), 0);
     auto nothing = example_beam();
     nothing->ffl_s.fill(0.0F);
     const Pictures flat(*nothing);
-    EXPECT_EQ(count(flat[ScreenPicture::Picfelt], Qt::magenta), 0);
+    EXPECT_EQ(count(flat[Picture::Picfelt], Qt::magenta), 0);
 }
 
 // The first row from the middle down that holds the grey of a band (above it
@@ -257,7 +257,7 @@ TEST(Pictures, EveryProjectThatOpensCanBeDrawn)
         RecordingScreen screen;
         MainCalc(*m, screen, scratch_folder());
         const Pictures p(*m);
-        ASSERT_EQ(count(p[ScreenPicture::Picresult], Qt::magenta), 0) << "trial " << trial;
+        ASSERT_EQ(count(p[Picture::Picresult], Qt::magenta), 0) << "trial " << trial;
         ++drawn;
     }
     EXPECT_GT(drawn, 60);

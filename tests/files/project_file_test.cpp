@@ -5,7 +5,7 @@
 #include "files/project_file.h"
 #include "files/project_layout.h"
 #include "files/start_values.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 #include "ui/messages.h"
 
@@ -521,27 +521,6 @@ TEST(ProjectFile, CountsOfRowsBeyondATableStopAtTheTable)
     EXPECT_EQ(m->material_table.last_row, MaterialTable::kRows - 1);
     EXPECT_EQ(m->setup.setup_row, 0); // a row the table does not hold falls back to the first
     EXPECT_EQ(m->annex, "Nor");
-}
-
-TEST(ProjectFile, ABeamThatCannotBeCalculatedStopsAtTheGate)
-{
-    auto saved = example_beam();
-    saved->ffl_s(2) = 0.0F; // saved while its box was still marked wrong
-    const fs::path path = project_folder() / "zero_span.kvel";
-    ASSERT_FALSE(WriteProject(*saved, path));
-    auto m = opened(path);
-    EXPECT_EQ(m->err_spans, kTrue);
-    RecordingScreen screen;
-    MainCalc(*m, screen, scratch_folder());
-    ASSERT_EQ(screen.messages.size(), 1U);
-    EXPECT_EQ(screen.messages[0].code, 500);
-
-    auto free_ends = example_beam();
-    free_ends->nsupLeft_s = kFree;
-    free_ends->nsupRight_s = kFree;
-    const fs::path unstable = project_folder() / "unstable.kvel";
-    ASSERT_FALSE(WriteProject(*free_ends, unstable));
-    EXPECT_EQ(opened(unstable)->err_supports, kTrue);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // refused, a refused one changes nothing, and an opened one recalculates.
 
 #include "files/project_file.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 #include "tests/support/damaged_projects.h"
 #include "ui/input_checks.h"

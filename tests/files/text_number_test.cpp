@@ -12,9 +12,9 @@ namespace {
 constexpr std::int16_t kPointMachine = 0;
 constexpr std::int16_t kCommaMachine = 1;
 
-std::optional<float> read(std::string text, std::int16_t machine)
+std::optional<float> read(std::string_view text, std::int16_t machine)
 {
-    return TextToNumber(text, machine);
+    return TextToNumber(text, machine).value;
 }
 
 TEST(TextToNumber, ReadsPointAndCommaAlikeOnEitherMachine)
@@ -32,12 +32,8 @@ TEST(TextToNumber, ReadsPointAndCommaAlikeOnEitherMachine)
 
 TEST(TextToNumber, RewritesTheTextWithTheMachinesSeparator)
 {
-    std::string text = "  2.75";
-    TextToNumber(text, kCommaMachine);
-    EXPECT_EQ(text, "2,75");
-    text = "2,75";
-    TextToNumber(text, kPointMachine);
-    EXPECT_EQ(text, "2.75");
+    EXPECT_EQ(TextToNumber("  2.75", kCommaMachine).text, "2,75");
+    EXPECT_EQ(TextToNumber("2,75", kPointMachine).text, "2.75");
 }
 
 TEST(TextToNumber, APointMachineReadsTheLeadingNumberAndACommaMachineRefusesRubbish)
@@ -53,12 +49,9 @@ TEST(TextToNumber, APointMachineReadsTheLeadingNumberAndACommaMachineRefusesRubb
 
 TEST(TextToInt16, RoundsAndRefusesWhatA16BitNumberCannotHold)
 {
-    std::string text = "2.5";
-    EXPECT_EQ(TextToInt16(text, kPointMachine), 2); // ties to even
-    text = "3,5";
-    EXPECT_EQ(TextToInt16(text, kPointMachine), 4);
-    text = "40000";
-    EXPECT_EQ(TextToInt16(text, kPointMachine), std::nullopt);
+    EXPECT_EQ(TextToInt16("2.5", kPointMachine).value, 2); // ties to even
+    EXPECT_EQ(TextToInt16("3,5", kPointMachine).value, 4);
+    EXPECT_EQ(TextToInt16("40000", kPointMachine).value, std::nullopt);
 }
 
 TEST(DecimalProbe, TheCLocaleWritesAPoint)

@@ -3,7 +3,7 @@
 
 #include "files/project_file.h"
 #include "files/start_values.h"
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "ui/input_checks.h"
 
 #include <cstdlib>

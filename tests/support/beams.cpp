@@ -2,7 +2,7 @@
 
 #include "analysis/points.h"
 #include "files/start_values.h"
-#include "model/run_analysis.h"
+#include "recalc/run_analysis.h"
 
 #include <unistd.h>
 

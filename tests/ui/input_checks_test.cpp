@@ -2,9 +2,8 @@
 // number of spans.
 
 #include "tests/support/beams.h"
-#include "ui/change_beam.h"
 #include "ui/input_checks.h"
-#include "ui/number_format.h"
+#include "files/number_format.h"
 
 #include <gtest/gtest.h>
 
@@ -45,13 +44,13 @@ TEST(SpanCheck, StopsAtTheFirstMissingSpan)
     m->nf = 3;
     m->ffl_s(2) = 0;
     m->ffl_s(3) = 0;
-    std::optional<Message> message;
-    EXPECT_EQ(check_spans(*m, message), 2);
+    const auto failure = check_spans(*m);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->span, 2);
     EXPECT_EQ(m->err_spans, kTrue);
-    EXPECT_EQ(message->title, "Lenght of span");
+    EXPECT_EQ(failure->message.title, "Lenght of span");
     m->ffl_s(2) = m->ffl_s(3) = 4;
-    message.reset();
-    EXPECT_FALSE(check_spans(*m, message).has_value());
+    EXPECT_FALSE(check_spans(*m).has_value());
     EXPECT_EQ(m->err_spans, kFalse);
 }
 
@@ -80,26 +79,6 @@ TEST(AllBoxes, CheckOnlyTheBoxesTheBeamShows)
     EXPECT_TRUE(check_all_boxes(*m).empty());
     m->vipping_off = kFalse;
     EXPECT_EQ(check_all_boxes(*m).size(), 1U);
-}
-
-TEST(ChangeBeam, FewerSpansDropTheirLoadsAndEveryChangeResetsTheSupports)
-{
-    auto m = example_beam();
-    m->nf = 3;
-    m->nf_previous = 2;
-    m->nsupLeft_s = kBuiltIn;
-    ChangeBeam(*m);
-    EXPECT_EQ(m->nnodes, 4);
-    EXPECT_EQ(m->nsupLeft_s, kSimple);
-    EXPECT_EQ(m->G.uni_n, 2); // more spans keep every load
-    add_point(m->Q1, 3, 1, 1);
-    add_point(m->Q1, 1, 2, 1);
-    m->nf_previous = 3;
-    m->nf = 2;
-    ChangeBeam(*m);
-    EXPECT_EQ(m->Q1.pt_n, 1);
-    EXPECT_EQ(m->Q1.pt_P(1), 2.0F);
-    EXPECT_EQ(m->support_kind(3), kSimple);
 }
 
 TEST(NumberFormat, WritesThePatternsOfTheDisplay)

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "ui/load_checks.h"
-#include "ui/messages.h"
+#include "model/load_dialogs.h"
+#include "model/message.h"
+#include "model/picture.h"
 
 #include <vector>
 
 namespace kvelder {
-
-// The pictures of the main window that a recalculation clears.
-enum class Picture { Picegenlast, Picnyttelast, Picnyttelast_2, Picresult, Picdisp };
 
 // What a recalculation needs of the screen while it runs. Everything else the
 // window reads from the model when the run is over.
@@ -21,7 +19,8 @@ public:
     virtual void clear_picture(Picture picture) = 0;
 };
 
-// A screen that keeps what it was asked to do, for the headless tool and tests.
+// A screen that keeps what it was asked to do, for the window to replay when
+// the run is over, for the headless tool and for tests.
 class RecordingScreen final : public CalcScreen {
 public:
     void show_message(const Message& message) override { messages.push_back(message); }

@@ -1,48 +1,32 @@
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 
 #include "analysis/points.h"
 #include "design/buckling.h"
 #include "design/factors.h"
 #include "design/section.h"
 #include "design/section_checks.h"
-#include "model/run_analysis.h"
+#include "recalc/run_analysis.h"
+#include "ui/load_checks.h"
+#include "ui/messages.h"
 
 namespace kvelder {
 namespace {
-
-struct GroupParts {
-    LoadGroupId id;
-    Picture picture;
-};
-
-constexpr GroupParts kGroups[] = {{LoadGroupId::G, Picture::Picegenlast},
-                                  {LoadGroupId::Q1, Picture::Picnyttelast},
-                                  {LoadGroupId::Q2, Picture::Picnyttelast_2}};
 
 // The four tables of a group in order; the point and moment tables that pass
 // add their positions to the grids.
 std::optional<LoadRowFailure> check_group(Model& m, LoadGroupId id)
 {
-    LoadGroup& group = group_of(m, id);
-    LoadPointLists& lists = id == LoadGroupId::G    ? m.G_points
-                            : id == LoadGroupId::Q1 ? m.Q1_points
-                                                    : m.Q2_points;
-    for (LoadTable table : {LoadTable::Uniform, LoadTable::Trapezoid, LoadTable::Point, LoadTable::Moment}) {
+    for (LoadTable table : kLoadTables) {
         if (auto failure = check_load_table(m, id, table)) {
             return failure;
         }
         if (table == LoadTable::Point) {
-            collect_load_points(m, group, lists, PointTable::Point);
+            collect_load_points(m, group_of(m, id), points_of(m, id), PointTable::Point);
         } else if (table == LoadTable::Moment) {
-            collect_load_points(m, group, lists, PointTable::Moment);
+            collect_load_points(m, group_of(m, id), points_of(m, id), PointTable::Moment);
         }
     }
     return std::nullopt;
-}
-
-std::int16_t& empty_flag(Model& m, LoadGroupId id)
-{
-    return id == LoadGroupId::G ? m.G_empty : id == LoadGroupId::Q1 ? m.Q1_empty : m.Q2_empty;
 }
 
 } // namespace
@@ -52,14 +36,14 @@ void check_loads(Model& m, CalcScreen& screen)
     // The grids follow the spans even when a failing row stops the collection early.
     divide_spans(m, m.nxtot_s, 50, m.xl_s);
     divide_spans(m, m.nxtot10_s, 10, m.xl10_s);
-    for (const GroupParts& part : kGroups) {
-        screen.clear_picture(part.picture);
+    for (const LoadGroupId id : kLoadGroups) {
+        screen.clear_picture(picture_of(id));
         m.err_load_item = kFalse;
-        const std::optional<LoadRowFailure> failure = check_group(m, part.id);
+        const std::optional<LoadRowFailure> failure = check_group(m, id);
         // The grid is kept sorted even after a failure, so that nothing reads it out of order.
         normalise_grid(m, m.nxtot_s, 50, m.xl_s);
-        const bool self_weight = part.id == LoadGroupId::G && is_true(m.profile_weight_on);
-        empty_flag(m, part.id) = flag_of(group_of(m, part.id).empty() && !self_weight);
+        const bool self_weight = id == LoadGroupId::G && is_true(m.profile_weight_on);
+        empty_flag(m, id) = flag_of(group_of(m, id).empty() && !self_weight);
         if (failure) {
             m.err_load_item = kTrue;
             screen.show_load_dialog(*failure);

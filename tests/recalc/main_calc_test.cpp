@@ -1,7 +1,7 @@
 // The recalculation as a whole: from the engineer's input to usage factors, the
 // gate that stops it, and nothing surviving from one run into the next.
 
-#include "model/main_calc.h"
+#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "ui/recent_files_settings.h"
+#include "gui/recent_files_settings.h"
 
 #include <QString>
 

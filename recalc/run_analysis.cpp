@@ -1,4 +1,4 @@
-#include "model/run_analysis.h"
+#include "recalc/run_analysis.h"
 
 #include "analysis/stiffness.h"
 #include "combination/runner.h"

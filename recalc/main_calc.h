@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/calc_screen.h"
+#include "recalc/calc_screen.h"
 #include "model/model.h"
 
 #include <filesystem>

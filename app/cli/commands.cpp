@@ -1,0 +1,301 @@
+#include "app/cli/commands.h"
+
+#include "app/cli/beam_description.h"
+#include "app/cli/beam_dump.h"
+#include "app/cli/plot_command.h"
+#include "app/cli/result_json.h"
+#include "app/cli/result_text.h"
+#include "files/start_values.h"
+#include "files/text_lines.h"
+#include "recalc/main_calc.h"
+#include "ui/input_checks.h"
+#include "ui/load_checks.h"
+#include "ui/messages.h"
+#include "ui/project_actions.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace kvelder::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Thrown and caught in this file only: the command ends with this exit code
+// and line.
+struct Stopped {
+    Stop stop;
+};
+
+[[noreturn]] void stop(int code, std::string line)
+{
+    throw Stopped{Stop{code, std::move(line)}};
+}
+
+std::string message_line(const Message& msg)
+{
+    return msg.title.empty() ? msg.text : msg.title + ": " + msg.text;
+}
+
+std::string trimmed(const std::string& text)
+{
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+const char* table_name(LoadTable t)
+{
+    constexpr std::array<const char*, 4> names{"uniform", "trapezoidal", "point", "moment"};
+    return names[static_cast<std::size_t>(t)];
+}
+
+void read_description(Model& m, const fs::path& input)
+{
+    const std::optional<std::string> text = read_text_file(input);
+    if (!text) {
+        stop(kUsageError, input.string() + ": cannot be read");
+    }
+    const nlohmann::json description = nlohmann::json::parse(*text, nullptr, false);
+    if (description.is_discarded()) {
+        stop(kUsageError, input.string() + ": not valid JSON");
+    }
+    if (const auto failed = apply_description(m, description)) {
+        stop(kUsageError, input.string() + ": " + *failed);
+    }
+}
+
+void read_project(Model& m, const fs::path& input)
+{
+    LoadDialogs dialogs;
+    if (const auto failed = open_project(m, input, dialogs)) {
+        std::string line = input.string() + ": " + trimmed(project_message(m.language, *failed).text);
+        if (failed->kind == ProjectFailure::Kind::NotAProject) {
+            line += " (" + failed->detail + ")";
+        }
+        stop(kUsageError, line);
+    }
+}
+
+// The program as it starts: the data folder's files and the example beam.
+void start(Model& m, const Options& o, std::ostream& err)
+{
+    const fs::path data_dir = o.data_dir.value_or(o.installed_data_dir);
+    if (o.data_dir && !fs::is_directory(data_dir)) {
+        stop(kUsageError, "--data-dir " + data_dir.string() + ": no such folder");
+    }
+    for (const DataFileNote& note : start_up(m, data_dir)) {
+        err << "kvelder-cli: " << message_line(data_file_message(m.language, note)) << '\n';
+    }
+}
+
+// The beam ready for its recalculation: start-up, the input, and every check
+// that typing it into the window would run. The failed checks' messages.
+std::vector<Message> prepare(Model& m, const Options& o, std::ostream& err)
+{
+    start(m, o, err);
+    if (o.input && is_project(*o.input)) {
+        read_project(m, *o.input);
+    } else if (o.input) {
+        read_description(m, *o.input);
+    }
+    return check_all_boxes(m);
+}
+
+// One recalculation; false when it raised a message. A failing load row
+// without a message of its own still fails the run.
+bool calculate(Model& m, std::vector<Message>& messages, std::ostream& err)
+{
+    RecordingScreen screen;
+    MainCalc(m, screen);
+    messages.insert(messages.end(), screen.messages.begin(), screen.messages.end());
+    for (const LoadRowFailure& f : screen.load_failures) {
+        if (!failure_message(m.language, f)) {
+            err << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row " << f.row
+                << ": the span number is not a span of the beam (check " << f.code << ")\n";
+        }
+    }
+    return screen.messages.empty() && screen.load_failures.empty();
+}
+
+int report_failure(const std::vector<Message>& messages, std::ostream& err)
+{
+    for (const Message& msg : messages) {
+        err << "kvelder-cli: " << message_line(msg) << '\n';
+    }
+    return kCheckFailed;
+}
+
+// Runs a sub-command, turning its stop into the exit code and its line.
+template <typename Body> int guarded(std::ostream& err, Body body)
+{
+    try {
+        return body();
+    } catch (const Stopped& s) {
+        err << "kvelder-cli: " << s.stop.line << '\n';
+        return s.stop.code;
+    } catch (const std::exception& e) {
+        err << "kvelder-cli: " << e.what() << '\n';
+        return kUsageError;
+    }
+}
+
+// The data a project brings along.
+struct OwnData {
+    MaterialTable materials;
+    ProfileTable profiles;
+    std::array<SetupRow, FileDatabase::kRows> annexes;
+
+    explicit OwnData(const Model& m)
+        : materials(m.material_table), profiles(m.profile_table), annexes(m.setup.setup_table)
+    {
+        // The classes and psi values of the selected row are in the description.
+        for (SetupRow& r : annexes) {
+            r.safety_class = r.psi0_1_index = r.psi0_2_index = r.psi2_1_index = r.psi2_2_index = 0;
+        }
+    }
+};
+
+// Names the data the project carries that differs from the data folder's:
+// a description of the beam refers to the folder's rows.
+void note_own_data(const OwnData& folder, const OwnData& project, std::ostream& err)
+{
+    const auto note = [&err](const char* what) {
+        err << "kvelder-cli: the project carries its own " << what
+            << "; the description refers to the rows of the data folder's\n";
+    };
+    if (folder.materials != project.materials) {
+        note("material catalogue");
+    }
+    if (folder.profiles != project.profiles) {
+        note("profile catalogue");
+    }
+    if (folder.annexes != project.annexes) {
+        note("setup table");
+    }
+}
+
+} // namespace
+
+int run_calc(const Options& o, std::ostream& out, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto m = std::make_unique<Model>();
+        std::vector<Message> messages = prepare(*m, o, err);
+        if (!messages.empty() || !calculate(*m, messages, err)) {
+            if (!o.text) {
+                out << nlohmann::ordered_json{{"messages", messages_json(messages)}}.dump(2) << '\n';
+            }
+            return report_failure(messages, err);
+        }
+        if (o.text) {
+            out << result_text(*m);
+        } else {
+            out << result_json(*m, messages).dump(2) << '\n';
+        }
+        return kCalculated;
+    });
+}
+
+int run_save(const Options& o, std::ostream&, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto m = std::make_unique<Model>();
+        std::vector<Message> messages = prepare(*m, o, err);
+        // The factors of the last recalculation travel in the file, as when the
+        // window saves.
+        if (!messages.empty() || !calculate(*m, messages, err)) {
+            err << "kvelder-cli: the beam fails its checks; " << o.output->string() << " is not written\n";
+            return report_failure(messages, err);
+        }
+        if (const auto failed = save_project(*m, *o.output)) {
+            stop(kUsageError, project_message(m->language, *failed).text);
+        }
+        return kCalculated;
+    });
+}
+
+int run_dump(const Options& o, std::ostream& out, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto m = std::make_unique<Model>();
+        start(*m, o, err);
+        const OwnData folder(*m);
+        read_project(*m, *o.input);
+        note_own_data(folder, OwnData(*m), err);
+        out << describe_beam(*m).dump(2) << '\n';
+        return kCalculated;
+    });
+}
+
+int run_plot(const Options& o, std::ostream&, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto m = std::make_unique<Model>();
+        std::vector<Message> messages = prepare(*m, o, err);
+        if (!messages.empty() || !calculate(*m, messages, err)) {
+            return report_failure(messages, err);
+        }
+        if (const auto failed = write_pictures(*m, *o.output, o.width, o.height)) {
+            stop(kUsageError, *failed);
+        }
+        return kCalculated;
+    });
+}
+
+int run_bench(const Options& o, std::ostream& out, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto m = std::make_unique<Model>();
+        std::vector<Message> messages = prepare(*m, o, err);
+        if (!messages.empty() || !calculate(*m, messages, err)) { // the warm-up run
+            return report_failure(messages, err);
+        }
+        std::vector<double> times;
+        times.reserve(static_cast<std::size_t>(o.runs));
+        RecordingScreen screen;
+        for (int r = 0; r < o.runs; ++r) {
+            const auto begin = std::chrono::steady_clock::now();
+            MainCalc(*m, screen);
+            const auto end = std::chrono::steady_clock::now();
+            times.push_back(std::chrono::duration<double, std::micro>(end - begin).count());
+        }
+        std::sort(times.begin(), times.end());
+        const std::size_t mid = times.size() / 2;
+        const double median = times.size() % 2 == 1 ? times[mid] : (times[mid - 1] + times[mid]) / 2;
+        out << nlohmann::ordered_json{{"runs", o.runs}, {"median_us", median}, {"min_us", times.front()}}.dump()
+            << '\n';
+        return kCalculated;
+    });
+}
+
+int run_cli(const std::vector<std::string>& args, const fs::path& installed_data_dir, std::ostream& out,
+            std::ostream& err)
+{
+    std::variant<Options, Stop> parsed = parse(args);
+    if (const Stop* s = std::get_if<Stop>(&parsed)) {
+        if (s->line.empty()) {
+            (s->code == kCalculated ? out : err) << kUsage;
+        } else {
+            err << "kvelder-cli: " << s->line << '\n';
+        }
+        return s->code;
+    }
+    Options& o = std::get<Options>(parsed);
+    o.installed_data_dir = installed_data_dir;
+    if (o.command == "save") {
+        return run_save(o, out, err);
+    }
+    if (o.command == "dump") {
+        return run_dump(o, out, err);
+    }
+    if (o.command == "plot") {
+        return run_plot(o, out, err);
+    }
+    return o.command == "calc" ? run_calc(o, out, err) : run_bench(o, out, err);
+}
+
+} // namespace kvelder::cli

@@ -1,0 +1,177 @@
+// What each control does to the beam: the rules the window and kvelder-cli share.
+
+#include "design/section.h"
+#include "tests/support/beams.h"
+#include "ui/edits.h"
+#include "ui/load_checks.h"
+
+#include <gtest/gtest.h>
+
+namespace kvelder::test {
+namespace {
+
+LoadDialogs dialogs_of(const Model& m)
+{
+    LoadDialogs d;
+    for (LoadGroupId id : kLoadGroups) {
+        d[static_cast<std::size_t>(id)] = dialog_texts(group_of(m, id), m.decimal_comma);
+    }
+    return d;
+}
+
+const ProfileRow& profile(const Model& m, int family, int index)
+{
+    return m.profile_families.of(family)[static_cast<std::size_t>(index)];
+}
+
+TEST(ChooseFamily, AStaleProfileFallsToTheMiddleAndTheSectionFollowsTheList)
+{
+    auto m = example_beam(); // laminated, profile 52
+    const int timber = static_cast<int>(m->profile_families.of(0).size());
+    ASSERT_LT(timber, 52);
+    choose_family(*m, 0);
+    EXPECT_EQ(m->material_family, "tre_bjelke");
+    EXPECT_EQ(m->prof_index, middle_profile_row(timber));
+    EXPECT_EQ(m->section_b, profile(*m, 0, m->prof_index).b);
+    EXPECT_EQ(m->section_h, profile(*m, 0, m->prof_index).h);
+    EXPECT_EQ(m->standard_section, kTrue);
+
+    choose_profile(*m, 3);
+    choose_family(*m, 1); // a selection the list holds stays
+    EXPECT_EQ(m->prof_index, 3);
+    EXPECT_EQ(m->section_h, profile(*m, 1, 3).h);
+}
+
+TEST(ChooseFamily, KertoIsAFreeRectangleAndNotMadeForServiceClassThree)
+{
+    auto m = example_beam();
+    choose_section_option(*m, SectionOption::Circle);
+    choose_service_class(*m, 3);
+    choose_family(*m, 2);
+    EXPECT_EQ(m->material_family, "kerto     ");
+    EXPECT_EQ(m->section_form, "Firk");
+    EXPECT_EQ(m->standard_section, kFalse);
+    EXPECT_EQ(m->service_class, 2);
+    EXPECT_FALSE(service_class_enabled(*m, 3));
+    EXPECT_FALSE(section_option_enabled(*m, SectionOption::Standard));
+    EXPECT_FALSE(section_option_enabled(*m, SectionOption::Circle));
+    EXPECT_TRUE(section_option_enabled(*m, SectionOption::Rectangle));
+}
+
+TEST(SectionOption, ACircleHasNoBucklingCheckAndACatalogueProfileItsOwnSizes)
+{
+    auto m = example_beam();
+    set_buckling_check(*m, true);
+    choose_section_option(*m, SectionOption::Circle);
+    EXPECT_EQ(m->section_form, "Tube");
+    EXPECT_EQ(m->vipping_off, kTrue);
+    EXPECT_FALSE(buckling_check_enabled(*m));
+
+    choose_section_option(*m, SectionOption::Rectangle);
+    EXPECT_EQ(m->vipping_off, kTrue); // back to a rectangle, the check stays off
+    EXPECT_EQ(set_section_size(*m, Box::Width, 0)->text, " b =< 0 ");
+    EXPECT_EQ(m->section_b, 0.0F); // the value stays as typed
+    choose_section_option(*m, SectionOption::Standard);
+    EXPECT_EQ(m->section_b, profile(*m, 1, 52).b);
+}
+
+TEST(SpanCount, FewerSpansEmptyTheirRowsAndANewSpanHasNoLength)
+{
+    auto m = example_beam();
+    add_point(m->Q1, 2, 1, 1);
+    add_point(m->Q1, 1, 2, 1);
+    LoadDialogs d = dialogs_of(*m);
+    choose_support(*m, BeamEnd::Left, kBuiltIn, d);
+
+    EXPECT_FALSE(choose_span_count(*m, 1, d));
+    EXPECT_EQ(m->nsupLeft_s, kSimple); // every change resets both ends
+    EXPECT_EQ(m->nnodes, 2);
+    EXPECT_EQ(m->G.uni_n, 1);
+    EXPECT_EQ(m->Q1.pt_n, 1);
+    EXPECT_EQ(m->Q1.pt_P(1), 2.0F);
+    EXPECT_TRUE(d[1].frames[2][0][0].empty()); // the row of span 2 is emptied in its place
+
+    m->nf_previous = 1;
+    const auto failure = choose_span_count(*m, 2, d);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->span, 2);
+    EXPECT_EQ(m->err_spans, kTrue);
+    EXPECT_EQ(m->G.uni_n, 1); // going back does not bring the loads back
+    EXPECT_FALSE(set_span_length(*m, 2, 4.0F, d));
+    EXPECT_EQ(m->err_spans, kFalse);
+}
+
+TEST(SpanLength, ShorterSpansClipTheRowsOfGAndQ1ButNotQ2)
+{
+    auto m = example_beam();
+    for (LoadGroup* g : {&m->G, &m->Q1, &m->Q2}) {
+        add_trapezoid(*g, 1, 1, 2, 1.0F, 4.5F);
+        add_point(*g, 1, 3, 4.2F);
+    }
+    LoadDialogs d = dialogs_of(*m);
+    EXPECT_FALSE(set_span_length(*m, 1, 4.0F, d));
+    for (const LoadGroup* g : {&m->G, &m->Q1}) {
+        ASSERT_EQ(g->trap_n, 1);
+        EXPECT_EQ(g->trap_b(1), 4.0F);
+        EXPECT_EQ(g->pt_n, 0);
+    }
+    EXPECT_EQ(m->Q2.trap_b(1), 4.5F);
+    EXPECT_EQ(m->Q2.pt_n, 1);
+
+    const auto failure = set_span_length(*m, 2, 0.0F, d);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->message.text, "Length of span is missing");
+}
+
+TEST(Supports, LoadsOnANewSupportLoseTheirRows)
+{
+    auto m = example_beam();
+    add_point(m->G, 1, 5, 0.01F);
+    add_moment(m->G, 1, 2, 0.0F);
+    add_point(m->Q1, 2, 5, 4.995F);
+    add_moment(m->Q1, 2, 2, 5.0F);
+    LoadDialogs d = dialogs_of(*m);
+
+    EXPECT_FALSE(choose_support(*m, BeamEnd::Left, kSimple, d));
+    EXPECT_EQ(m->G.pt_n, 0); // a point on a simple support
+    EXPECT_EQ(m->G.mom_n, 1);
+    EXPECT_FALSE(choose_support(*m, BeamEnd::Right, kBuiltIn, d));
+    EXPECT_EQ(m->Q1.pt_n, 0);
+    EXPECT_EQ(m->Q1.mom_n, 0); // a moment on a built-in end
+    EXPECT_EQ(m->support_kind(3), kBuiltIn);
+
+    EXPECT_FALSE(choose_support(*m, BeamEnd::Left, kFree, d));
+    const auto unstable = choose_support(*m, BeamEnd::Right, kFree, d);
+    ASSERT_TRUE(unstable);
+    EXPECT_EQ(unstable->title, "Support conditions");
+    EXPECT_EQ(m->err_supports, kTrue);
+}
+
+TEST(Setup, PsiAndClassesGiveTheirFactors)
+{
+    auto m = example_beam();
+    choose_psi(*m, PsiList::Psi0_Q1, 4);
+    choose_psi(*m, PsiList::Psi2_Q2, 0);
+    EXPECT_EQ(m->psi0_1, f32(0.6));
+    EXPECT_EQ(m->psi2_2, 0.0F);
+    EXPECT_EQ(psi_list_size(PsiList::Psi0_Q2), 9);
+    choose_safety_class(*m, 1);
+    EXPECT_EQ(m->kfi, 0.9F); // Norway's class 1
+
+    int swedish = -1;
+    for (int r = 0; r <= m->setup.setup_last_row; ++r) {
+        if (m->setup.setup_table[static_cast<std::size_t>(r)].annex == "Swe") {
+            swedish = r;
+        }
+    }
+    ASSERT_GE(swedish, 0);
+    choose_annex_row(*m, swedish);
+    EXPECT_EQ(m->annex, "Swe");
+    choose_safety_class(*m, 1);
+    EXPECT_EQ(m->kfi, 0.83F);
+    EXPECT_EQ(set_ksys(*m, 1.21F)->text, " 1 <= ksys <= 1.2");
+    EXPECT_FALSE(set_ksys(*m, 1.2F));
+}
+
+} // namespace
+} // namespace kvelder::test

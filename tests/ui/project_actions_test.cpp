@@ -1,0 +1,82 @@
+// New, open and save as the window and kvelder-cli do them.
+
+#include "recalc/main_calc.h"
+#include "tests/support/beams.h"
+#include "ui/project_actions.h"
+
+#include <gtest/gtest.h>
+
+namespace kvelder::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<Message> recalculated(Model& m)
+{
+    RecordingScreen screen;
+    MainCalc(m, screen, scratch_folder());
+    return screen.messages;
+}
+
+TEST(OpenProject, ABeamThatCannotBeCalculatedStopsAtTheGate)
+{
+    auto saved = example_beam();
+    saved->ffl_s(2) = 0.0F; // saved while its box was still marked wrong
+    const fs::path path = scratch_folder() / "zero_span.kvel";
+    ASSERT_FALSE(save_project(*saved, path));
+    auto m = example_beam();
+    LoadDialogs dialogs;
+    ASSERT_FALSE(open_project(*m, path, dialogs));
+    EXPECT_EQ(m->err_spans, kTrue);
+    const std::vector<Message> messages = recalculated(*m);
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].code, 500);
+
+    auto free_ends = example_beam();
+    free_ends->nsupLeft_s = kFree;
+    free_ends->nsupRight_s = kFree;
+    const fs::path unstable = scratch_folder() / "unstable.kvel";
+    ASSERT_FALSE(save_project(*free_ends, unstable));
+    m = example_beam();
+    ASSERT_FALSE(open_project(*m, unstable, dialogs));
+    EXPECT_EQ(m->err_supports, kTrue);
+}
+
+TEST(OpenProject, AFailedOpenChangesNothing)
+{
+    auto m = example_beam();
+    const auto before = std::make_unique<Model>(*m);
+    LoadDialogs dialogs;
+    dialogs[0].frames[0].push_back({"1", "2.00"});
+    const LoadDialogs dialogs_before = dialogs;
+    const auto failed = open_project(*m, scratch_folder() / "no such project.kvel", dialogs);
+    ASSERT_TRUE(failed);
+    EXPECT_EQ(failed->kind, ProjectFailure::Kind::FileNotFound);
+    EXPECT_TRUE(*m == *before);
+    EXPECT_EQ(dialogs, dialogs_before);
+}
+
+// A beam left with no load at all holds every later run at the gate; a new or
+// opened beam with loads must not inherit that.
+TEST(NewProject, TheExampleBeamCalculatesAfterABeamWithoutLoads)
+{
+    auto m = example_beam();
+    m->G = m->Q1 = m->Q2 = LoadGroup{};
+    recalculated(*m);
+    ASSERT_EQ(m->err_section, kTrue);
+    m->ffl_s(1) = 0;
+    m->err_spans = kTrue;
+
+    LoadDialogs dialogs;
+    new_project(*m, dialogs);
+    EXPECT_EQ(m->loading_flag, kTrue);
+    EXPECT_EQ(m->ffl_s(1), 5.0F);
+    EXPECT_EQ(dialogs[0].frames[0].size(), 2U); // G's two uniform rows in their boxes
+    EXPECT_EQ(dialogs[0].frames[0][1][1], "2.00");
+    EXPECT_TRUE(recalculated(*m).empty());
+    EXPECT_EQ(m->loading_flag, kFalse);
+    EXPECT_GT(m->Uf_mom(1), 0.0F);
+}
+
+} // namespace
+} // namespace kvelder::test

@@ -1,0 +1,258 @@
+#include "ui/edits.h"
+
+#include "analysis/points.h"
+#include "design/factors.h"
+#include "design/section.h"
+#include "files/setup_file.h"
+#include "files/text_number.h"
+#include "ui/change_beam.h"
+#include "ui/load_checks.h"
+
+#include <array>
+#include <cstddef>
+
+namespace kvelder {
+namespace {
+
+constexpr int kKerto = 2;
+
+bool rectangles_only(const Model& m)
+{
+    return m.prof_type_index >= kKerto;
+}
+
+int family_size(const Model& m)
+{
+    return static_cast<int>(m.profile_families.of(m.prof_type_index).size());
+}
+
+LoadDialogTexts& dialog_of(LoadDialogs& dialogs, LoadGroupId id)
+{
+    return dialogs[static_cast<std::size_t>(id)];
+}
+
+// The dialogs are the master of the loads: after a change of their boxes every
+// group reads its rows again.
+void read_all_rows(Model& m, LoadDialogs& dialogs)
+{
+    for (LoadGroupId id : kLoadGroups) {
+        ReadRows(m, id, dialog_of(dialogs, id));
+    }
+}
+
+// A point row standing on the support at one end, or a moment row on a
+// built-in end, loses its span number.
+void drop_rows_on_support(const Model& m, LoadDialogTexts& dialog, BeamEnd end, char kind)
+{
+    const int span = end == BeamEnd::Left ? 1 : m.nf;
+    const float L = m.ffl_s(span);
+    const auto on_support = [&](const RowTexts& row) {
+        const float position = TextToNumber(row[2], m.decimal_comma).value.value_or(0);
+        return end == BeamEnd::Left ? position <= 0.01F : position > L - 0.01F;
+    };
+    const auto on_span = [&](const RowTexts& row) {
+        return !row[0].empty() && TextToInt16(row[0], m.decimal_comma).value == span;
+    };
+    for (const LoadTable table : {LoadTable::Point, LoadTable::Moment}) {
+        const bool held = table == LoadTable::Moment ? kind == kBuiltIn : kind == kBuiltIn || kind == kSimple;
+        for (RowTexts& row : dialog.frames[static_cast<std::size_t>(table)]) {
+            if (held && on_span(row) && on_support(row)) {
+                row[0].clear();
+            }
+        }
+    }
+}
+
+} // namespace
+
+void choose_family(Model& m, int family)
+{
+    m.prof_type_index = static_cast<std::int16_t>(family);
+    m.material_family = family_code(family);
+    m.section_form = "Firk";
+    if (rectangles_only(m)) {
+        m.standard_section = kFalse;
+        if (m.service_class == 3) {
+            m.service_class = 2;
+        }
+    }
+    if (family_size(m) <= m.prof_index) {
+        m.prof_index = static_cast<std::int16_t>(middle_profile_row(family_size(m)));
+    }
+    Read_profile_dimensions(m, m.prof_type_index, m.prof_index);
+}
+
+void choose_profile(Model& m, int index)
+{
+    m.prof_index = static_cast<std::int16_t>(index);
+    Read_profile_dimensions(m, m.prof_type_index, m.prof_index);
+}
+
+void choose_material(Model& m, int row)
+{
+    m.material_row = static_cast<std::int16_t>(row);
+}
+
+bool section_option_enabled(const Model& m, SectionOption option)
+{
+    return option == SectionOption::Rectangle || !rectangles_only(m);
+}
+
+void choose_section_option(Model& m, SectionOption option)
+{
+    switch (option) {
+    case SectionOption::Standard:
+        m.standard_section = kTrue;
+        m.section_form = "Firk";
+        Read_profile_dimensions(m, m.prof_type_index, m.prof_index);
+        break;
+    case SectionOption::Rectangle:
+        m.standard_section = kFalse;
+        m.section_form = "Firk";
+        break;
+    case SectionOption::Circle:
+        m.section_form = "Tube";
+        m.vipping_off = kTrue;
+        m.standard_section = kFalse;
+        break;
+    }
+}
+
+std::optional<Message> set_section_size(Model& m, Box box, float value)
+{
+    (box == Box::Width ? m.section_b : box == Box::Height ? m.section_h : m.section_d) = value;
+    return check_box(m, box, value);
+}
+
+std::optional<Message> set_bearing(Model& m, int node, Box box, float value)
+{
+    (box == Box::Kc90 ? m.bearing_kc90 : m.bearing_length)(node) = value;
+    return check_box(m, box, value);
+}
+
+std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dialogs)
+{
+    m.nf = static_cast<std::int16_t>(nf);
+    for (int i = nf + 1; i <= kMaxSpans; ++i) {
+        m.ffl_s(i) = 0; // its box is hidden and empty
+    }
+    ChangeBeam(m, dialogs);
+    return check_spans(m);
+}
+
+std::optional<SpanFailure> set_span_length(Model& m, int span, float length, LoadDialogs& dialogs)
+{
+    m.ffl_s(span) = length;
+    if (auto failure = check_spans(m)) {
+        return failure;
+    }
+    ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::G));
+    ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::Q1));
+    read_all_rows(m, dialogs);
+    return std::nullopt;
+}
+
+std::optional<Message> choose_support(Model& m, BeamEnd end, char kind, LoadDialogs& dialogs)
+{
+    (end == BeamEnd::Left ? m.nsupLeft_s : m.nsupRight_s) = kind;
+    std::optional<Message> message = check_supports(m);
+    for (LoadGroupId id : {LoadGroupId::G, LoadGroupId::Q1}) {
+        drop_rows_on_support(m, dialog_of(dialogs, id), end, kind);
+        CompactRows(dialog_of(dialogs, id));
+    }
+    read_all_rows(m, dialogs);
+    return message;
+}
+
+void set_self_weight(Model& m, bool on)
+{
+    m.profile_weight_on = flag_of(on);
+    build_calculation_grids(m);
+}
+
+void choose_load_combination(Model& m, int option)
+{
+    m.loadcomb_option = static_cast<std::int16_t>(option);
+}
+
+void choose_comb_rule(Model& m, const char* rule)
+{
+    m.comb_rule = rule;
+}
+
+bool buckling_check_enabled(const Model& m)
+{
+    return m.section_form != "Tube";
+}
+
+void set_buckling_check(Model& m, bool on)
+{
+    m.vipping_off = on ? kFalse : kTrue;
+}
+
+bool service_class_enabled(const Model& m, int service_class)
+{
+    return service_class != 3 || !rectangles_only(m);
+}
+
+void choose_service_class(Model& m, int service_class)
+{
+    m.service_class = static_cast<std::int16_t>(service_class);
+}
+
+void choose_duration_class(Model& m, int duration_class)
+{
+    m.duration_class = static_cast<std::int16_t>(duration_class);
+}
+
+std::optional<Message> set_ksys(Model& m, float ksys)
+{
+    m.ksys = ksys;
+    return check_box(m, Box::Ksys, ksys);
+}
+
+void choose_annex_row(Model& m, int row)
+{
+    m.setup.setup_row = static_cast<std::int16_t>(row);
+    ApplySetupRow(m);
+}
+
+void choose_language(Model& m, const char* language)
+{
+    m.language = language;
+    m.setup.setup_language = language;
+}
+
+void choose_safety_class(Model& m, int safety_class)
+{
+    m.safety_class = static_cast<std::int16_t>(safety_class);
+    if (const std::optional<float> kfi = kfi_of(m.annex, safety_class)) {
+        m.kfi = *kfi;
+    }
+}
+
+int psi_list_size(PsiList list)
+{
+    return list == PsiList::Psi0_Q1 || list == PsiList::Psi0_Q2 ? 9 : 11;
+}
+
+void choose_psi(Model& m, PsiList list, int index)
+{
+    const auto i = static_cast<std::int16_t>(index);
+    switch (list) {
+    case PsiList::Psi0_Q1:
+        m.psi0_1_index = i, m.psi0_1 = psi0_of(i);
+        break;
+    case PsiList::Psi0_Q2:
+        m.psi0_2_index = i, m.psi0_2 = psi0_of(i);
+        break;
+    case PsiList::Psi2_Q1:
+        m.psi2_1_index = i, m.psi2_1 = psi2_of(i);
+        break;
+    case PsiList::Psi2_Q2:
+        m.psi2_2_index = i, m.psi2_2 = psi2_of(i);
+        break;
+    }
+}
+
+} // namespace kvelder
