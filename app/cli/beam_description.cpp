@@ -120,14 +120,13 @@ void loads_into(const json& v, const std::string& key, LoadGroup& g)
         fail(key, "must be an object of load tables");
     }
     g = LoadGroup{};
-    constexpr std::array<const char*, 4> kinds{"uni", "trap", "pt", "mom"};
     for (const auto& [kind, rows] : v.items()) {
         const std::string where = key + "." + kind;
-        const auto named = std::find(kinds.begin(), kinds.end(), kind);
-        if (named == kinds.end()) {
+        const auto named = std::find(kLoadTableKeys.begin(), kLoadTableKeys.end(), kind);
+        if (named == kLoadTableKeys.end()) {
             fail(where, "is no load table (uni, trap, pt or mom)");
         }
-        const auto table = static_cast<LoadTable>(named - kinds.begin());
+        const auto table = static_cast<LoadTable>(named - kLoadTableKeys.begin());
         const auto width = static_cast<std::size_t>(value_count(table) + 1);
         if (!rows.is_array()) {
             fail(where, "must be a list of rows");

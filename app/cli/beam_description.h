@@ -4,10 +4,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <optional>
 #include <string>
 
 namespace kvelder::cli {
+
+// The keys of the four load tables of a group, in table order.
+inline constexpr std::array<const char*, 4> kLoadTableKeys{"uni", "trap", "pt", "mom"};
 
 // Applies a beam description to a model fresh from start-up, through the same
 // control rules as the window, in the order an engineer would click them. Keys

@@ -1,6 +1,9 @@
 #include "app/cli/beam_dump.h"
 
+#include "app/cli/beam_description.h"
 #include "app/cli/result_json.h"
+#include "design/factors.h"
+#include "model/load_rows.h"
 
 #include <cmath>
 
@@ -21,34 +24,21 @@ template <int N> ordered_json first(const Table<float, N>& t, int count)
 ordered_json group(const LoadGroup& g)
 {
     ordered_json rows = ordered_json::object();
-    ordered_json uni = ordered_json::array(), trap = ordered_json::array(), pt = ordered_json::array(),
-                 mom = ordered_json::array();
-    for (int k = 1; k <= g.uni_n; ++k) {
-        uni.push_back({g.uni_span(k), single(g.uni_q(k))});
-    }
-    for (int k = 1; k <= g.trap_n; ++k) {
-        trap.push_back({g.trap_span(k), single(g.trap_q1(k)), single(g.trap_q2(k)), single(g.trap_a(k)),
-                        single(g.trap_b(k))});
-    }
-    for (int k = 1; k <= g.pt_n; ++k) {
-        pt.push_back({g.pt_span(k), single(g.pt_P(k)), single(g.pt_a(k))});
-    }
-    for (int k = 1; k <= g.mom_n; ++k) {
-        mom.push_back({g.mom_span(k), single(g.mom_M(k)), single(g.mom_a(k))});
-    }
-    for (auto& [key, list] :
-         {std::pair{"uni", &uni}, std::pair{"trap", &trap}, std::pair{"pt", &pt}, std::pair{"mom", &mom}}) {
-        if (!list->empty()) {
-            rows[key] = *list;
+    for (LoadTable table : kLoadTables) {
+        ordered_json list = ordered_json::array();
+        for (int k = 1; k <= row_count(g, table); ++k) {
+            const LoadRow r = row(g, table, k);
+            ordered_json fields = ordered_json::array({r.span});
+            for (int v = 0; v < value_count(table); ++v) {
+                fields.push_back(single(r.values[static_cast<std::size_t>(v)]));
+            }
+            list.push_back(fields);
+        }
+        if (!list.empty()) {
+            rows[kLoadTableKeys[static_cast<std::size_t>(table)]] = list;
         }
     }
     return rows;
-}
-
-// A psi value as its list shows it, one decimal.
-double psi(std::int16_t index, int offset)
-{
-    return (index + offset) / 10.0;
 }
 
 } // namespace
@@ -61,10 +51,10 @@ ordered_json describe_beam(const Model& m)
     d["language"] = m.language;
     d["setup_row"] = m.setup.setup_row;
     d["safety_class"] = m.safety_class;
-    d["psi0_1"] = psi(m.psi0_1_index, 2);
-    d["psi0_2"] = psi(m.psi0_2_index, 2);
-    d["psi2_1"] = psi(m.psi2_1_index, 0);
-    d["psi2_2"] = psi(m.psi2_2_index, 0);
+    d["psi0_1"] = single(psi0_of(m.psi0_1_index));
+    d["psi0_2"] = single(psi0_of(m.psi0_2_index));
+    d["psi2_1"] = single(psi2_of(m.psi2_1_index));
+    d["psi2_2"] = single(psi2_of(m.psi2_2_index));
     d["nf"] = m.nf;
     d["ffl_s"] = first(m.ffl_s, m.nf);
     d["nsupLeft_s"] = std::string(1, m.nsupLeft_s);

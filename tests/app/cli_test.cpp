@@ -1,8 +1,12 @@
 // kvelder-cli from the outside: what it prints and how it exits.
 
-#include "app/cli/result_json.h"
+#include "app/cli/beam_description.h"
+#include "app/cli/commands.h"
 #include "recalc/main_calc.h"
 #include "tests/support/beams.h"
+
+#include <QCryptographicHash>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -10,7 +14,8 @@
 #include <array>
 #include <cstdio>
 #include <fstream>
-#include <sys/wait.h>
+#include <map>
+#include <sstream>
 
 namespace kvelder::test {
 namespace {
@@ -24,25 +29,40 @@ struct CliRun {
     std::string err;
 };
 
-// Runs the tool in the scratch folder, where it leaves its trace files.
-CliRun run(const std::string& args)
+// The words of a command line; '...' keeps blanks inside one word.
+std::vector<std::string> words(const std::string& line)
 {
-    const fs::path err_file = scratch_folder() / "cli_stderr.txt";
-    const std::string command = "cd '" + scratch_folder().string() + "' && '" KVELDER_CLI "' " + args +
-                                " 2>'" + err_file.string() + "'";
+    std::vector<std::string> w;
+    std::string word;
+    bool quoted = false, any = false;
+    for (char c : line) {
+        if (c == '\'') {
+            quoted = !quoted, any = true;
+        } else if (c == ' ' && !quoted) {
+            if (any) {
+                w.push_back(word);
+            }
+            word.clear(), any = false;
+        } else {
+            word += c, any = true;
+        }
+    }
+    if (any) {
+        w.push_back(word);
+    }
+    return w;
+}
+
+// Runs the command in process, in the scratch folder, where it leaves its trace files.
+CliRun run(const std::string& args, const fs::path& folder = scratch_folder())
+{
+    fs::create_directories(folder);
+    fs::current_path(folder);
+    std::ostringstream out, err;
     CliRun r;
-    FILE* pipe = ::popen(command.c_str(), "r");
-    if (pipe == nullptr) {
-        return r;
-    }
-    char buffer[4096];
-    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) {
-        r.out.append(buffer, n);
-    }
-    const int status = ::pclose(pipe);
-    r.exit = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    std::ifstream in(err_file);
-    r.err.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    r.exit = cli::run_cli(words(args), source_data_dir(), out, err);
+    r.out = out.str();
+    r.err = err.str();
     return r;
 }
 
@@ -378,6 +398,86 @@ TEST(CliPlot, WrongRequestsExitTwo)
     const CliRun r = run("plot -o '" + blocked.string() + "'");
     EXPECT_EQ(r.exit, 2);
     EXPECT_NE(r.err.find("no folder"), std::string::npos) << r.err;
+}
+
+std::string file_text(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// The results and both trace files of a set of beams, kept from before the
+// program's layers were last rearranged: every later build must give them
+// byte for byte.
+TEST(CliGolden, ResultsAndTracesStayByteForByte)
+{
+    const fs::path golden = fs::path(KVELDER_GOLDEN_DIR);
+    std::map<std::string, std::string> digests; // "beam/file" -> sha256
+    std::istringstream listed(file_text(golden / "traces.sha256"));
+    for (std::string digest, name; listed >> digest >> name;) {
+        digests[name] = digest;
+    }
+    int beams = 0;
+    for (const auto& entry : fs::directory_iterator(golden / "beams")) {
+        const std::string name = entry.path().stem().string();
+        const fs::path folder = scratch_folder() / "golden" / name;
+        fs::remove_all(folder);
+        const CliRun r = run("calc '" + entry.path().string() + "'", folder);
+        EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
+        for (const char* trace : {"Resultater", "Geometri"}) {
+            const auto expected = digests.find(name + "/" + trace);
+            if (expected == digests.end()) {
+                EXPECT_FALSE(fs::exists(folder / trace)) << name << "/" << trace;
+                continue;
+            }
+            const std::string bytes = file_text(folder / trace);
+            const QByteArray sha = QCryptographicHash::hash(QByteArray::fromStdString(bytes),
+                                                            QCryptographicHash::Sha256);
+            EXPECT_EQ(sha.toHex().toStdString(), expected->second) << name << "/" << trace;
+        }
+        ++beams;
+    }
+    EXPECT_EQ(beams, 12);
+}
+
+// A family is chosen before the section form, as in the window: the profile
+// list of the new family falls to its middle and the circle follows.
+TEST(CliCalc, AFamilyThenACircleCalculatesTheCircle)
+{
+    const CliRun r = run("calc " + description("family_circle.json",
+                                               R"({"prof_type_index": 0, "section_form": "Tube", "section_d": 240})"));
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json result = json::parse(r.out);
+    EXPECT_EQ(result["section"]["section_form"], "Tube");
+    EXPECT_EQ(result["section"]["d"], 240.0);
+    EXPECT_EQ(result["section"]["Azz"].get<float>(), f32(120.0 * 120 * 3.14 * 0.5));
+}
+
+TEST(CliCalc, ADescriptionThatIsRefusedChangesNothing)
+{
+    auto m = example_beam();
+    const auto before = std::make_unique<Model>(*m);
+    const auto failed = cli::apply_description(
+        *m, json::parse(R"({"ffl_s": [3.0, 4.0, 5.0], "nsupLeft_s": "I", "section_b": 90, "material": "C99"})"));
+    ASSERT_TRUE(failed);
+    EXPECT_NE(failed->find("\"material\""), std::string::npos) << *failed;
+    EXPECT_TRUE(*m == *before);
+}
+
+// The program itself, once: what main adds to run_cli is the data folder it
+// finds and the exit code it passes on.
+TEST(CliBinary, CalculatesTheExampleAndRefusesAnUnknownCommand)
+{
+    QProcess cli;
+    cli.setWorkingDirectory(QString::fromStdString(scratch_folder().string()));
+    cli.start(KVELDER_CLI, {"calc", "--text"});
+    ASSERT_TRUE(cli.waitForFinished(60000));
+    EXPECT_EQ(cli.exitCode(), 0);
+    EXPECT_TRUE(cli.readAllStandardOutput().contains("Material GL30c"));
+    cli.start(KVELDER_CLI, {"draw"});
+    ASSERT_TRUE(cli.waitForFinished(60000));
+    EXPECT_EQ(cli.exitCode(), 2);
+    EXPECT_TRUE(cli.readAllStandardError().contains("unknown command"));
 }
 
 } // namespace
