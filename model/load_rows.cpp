@@ -5,26 +5,21 @@
 namespace kvelder {
 namespace {
 
-// The columns of one table, span first, for the accessors below.
-template <int N> struct Columns {
-    std::int16_t& count;
-    Table<std::int16_t, N>& span;
-    std::array<Table<float, N>*, 4> values;
-};
-
-template <typename Visit> decltype(auto) with_table(LoadGroup& g, LoadTable table, Visit visit)
+// Calls `visit` with the count, the span column and the value columns of one
+// table, const where the group is.
+template <typename Group, typename Visit> decltype(auto) with_table(Group& g, LoadTable table, Visit visit)
 {
     switch (table) {
     case LoadTable::Uniform:
-        return visit(Columns<LoadGroup::kUniRows>{g.uni_n, g.uni_span, {&g.uni_q, nullptr, nullptr, nullptr}});
+        return visit(g.uni_n, g.uni_span, std::array{&g.uni_q});
     case LoadTable::Trapezoid:
-        return visit(Columns<LoadGroup::kTrapRows>{g.trap_n, g.trap_span, {&g.trap_q1, &g.trap_q2, &g.trap_a, &g.trap_b}});
+        return visit(g.trap_n, g.trap_span, std::array{&g.trap_q1, &g.trap_q2, &g.trap_a, &g.trap_b});
     case LoadTable::Point:
-        return visit(Columns<LoadGroup::kPointRows>{g.pt_n, g.pt_span, {&g.pt_P, &g.pt_a, nullptr, nullptr}});
+        return visit(g.pt_n, g.pt_span, std::array{&g.pt_P, &g.pt_a});
     case LoadTable::Moment:
         break;
     }
-    return visit(Columns<LoadGroup::kMomentRows>{g.mom_n, g.mom_span, {&g.mom_M, &g.mom_a, nullptr, nullptr}});
+    return visit(g.mom_n, g.mom_span, std::array{&g.mom_M, &g.mom_a});
 }
 
 } // namespace
@@ -108,21 +103,22 @@ int value_count(LoadTable table)
 
 int row_count(const LoadGroup& g, LoadTable table)
 {
-    return with_table(const_cast<LoadGroup&>(g), table,
-                      [table](auto c) { return std::clamp<int>(c.count, 0, capacity(table)); });
+    return with_table(g, table, [table](auto count, const auto&, const auto&) {
+        return std::clamp<int>(count, 0, capacity(table));
+    });
 }
 
 void set_row_count(LoadGroup& g, LoadTable table, int count)
 {
-    with_table(g, table, [count](auto c) { c.count = static_cast<std::int16_t>(count); });
+    with_table(g, table, [count](auto& n, const auto&, const auto&) { n = static_cast<std::int16_t>(count); });
 }
 
 LoadRow row(const LoadGroup& g, LoadTable table, int k)
 {
-    return with_table(const_cast<LoadGroup&>(g), table, [k](auto c) {
-        LoadRow r{c.span(k), {}};
-        for (std::size_t v = 0; v < c.values.size() && c.values[v] != nullptr; ++v) {
-            r.values[v] = (*c.values[v])(k);
+    return with_table(g, table, [k](auto, const auto& span, const auto& values) {
+        LoadRow r{span(k), {}};
+        for (std::size_t v = 0; v < values.size(); ++v) {
+            r.values[v] = (*values[v])(k);
         }
         return r;
     });
@@ -130,23 +126,21 @@ LoadRow row(const LoadGroup& g, LoadTable table, int k)
 
 void set_row(LoadGroup& g, LoadTable table, int k, const LoadRow& r)
 {
-    with_table(g, table, [k, &r](auto c) {
-        c.span(k) = r.span;
-        for (std::size_t v = 0; v < c.values.size() && c.values[v] != nullptr; ++v) {
-            (*c.values[v])(k) = r.values[v];
+    with_table(g, table, [k, &r](auto&, auto& span, const auto& values) {
+        span(k) = r.span;
+        for (std::size_t v = 0; v < values.size(); ++v) {
+            (*values[v])(k) = r.values[v];
         }
     });
 }
 
 void clear_table(LoadGroup& g, LoadTable table)
 {
-    with_table(g, table, [](auto c) {
-        c.count = 0;
-        c.span.fill(0);
-        for (auto* column : c.values) {
-            if (column != nullptr) {
-                column->fill(0);
-            }
+    with_table(g, table, [](auto& count, auto& span, const auto& values) {
+        count = 0;
+        span.fill(0);
+        for (auto* column : values) {
+            column->fill(0);
         }
     });
 }
