@@ -8,7 +8,7 @@ namespace {
 
 void beam_body(PlotSurface& surface, const SpanColumns& c, int nf, float y)
 {
-    surface.SetFillStyle(0);
+    surface.SetFillStyle(FillStyle::Solid);
     surface.SetFillColor(kRed);
     surface.SetForeColor(kRed);
     for (int i = 1; i <= nf; ++i) {

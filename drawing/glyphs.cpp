@@ -4,9 +4,9 @@ namespace kvelder {
 
 PixelMode::PixelMode(PlotSurface& surface) : m_surface(surface)
 {
-    m_surface.SetScaleMode(3);
+    m_surface.SetScaleMode(ScaleMode::Pixel);
     m_units = GetPercentUnits(m_surface);
-    m_surface.SetFillStyle(0);
+    m_surface.SetFillStyle(FillStyle::Solid);
     m_surface.SetDrawWidth(1);
 }
 

@@ -147,7 +147,7 @@ void moment_band(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             } else {
                 DrawArrowHead(s, xp - 15, yp - 4, kLoadArrow, true);
             }
-            s.SetFillStyle(1);
+            s.SetFillStyle(FillStyle::Transparent);
             s.Circle(xp, yp - 3, 15, kBlack, 0.0F, 3.14F);
         }
         const float pixel = 100.0F / static_cast<float>(s.PixelWidth());

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "drawing/plot_surface.h"
-#include "model/model.h"
 #include "model/load_rows.h"
+#include "model/model.h"
 
 namespace kvelder {
 

@@ -73,7 +73,7 @@ void PlotMomentSketch(PlotSurface& s)
     const float x = 45;
     {
         PixelMode px(s);
-        s.SetFillStyle(1);
+        s.SetFillStyle(FillStyle::Transparent);
         s.Circle(px.x(x), px.y(kSpanY) - 3, 15, kBlack, 0.0F, 3.14F);
         DrawArrowHead(s, px.x(x) + 15 - 3, px.y(kSpanY) - 3, 6, true);
     }

@@ -125,7 +125,7 @@ void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             const int span = g.uni_span(k);
             const float x0 = c.start(span), w = c.width[static_cast<std::size_t>(span - 1)];
             const float h = std::abs(g.uni_q(k)) / largest * kBandMm;
-            s.SetFillStyle(1);
+            s.SetFillStyle(FillStyle::Transparent);
             s.Line(x0, y, x0 + w, y + h, kBlack, true);
             for (int quarter = 0; quarter <= 4; ++quarter) {
                 arrow(s, x0 + static_cast<float>(quarter) * w / 4, y, y + h, g.uni_q(k) >= 0);
@@ -162,7 +162,7 @@ void paper_diagram(PlotSurface& s, const Model& m, Diagram d,
     const DiagramPlace place{base, 0.075F, std::max(MaxAbsOverSpans(m, upper), MaxAbsOverSpans(m, lower))};
     if (place.maximum > 0 && std::isfinite(place.maximum)) {
         for (const auto* values : {&upper, &lower}) {
-            s.SetDrawStyle(values == &upper ? 0 : 2);
+            s.SetDrawStyle(values == &upper ? DrawStyle::Solid : DrawStyle::Dot);
             for (int i = 1; i <= m.nf; ++i) {
                 const SpanCurve curve = span_curve(m, *values, i);
                 const auto py = [&](float v) { return 100 / place.maximum * v * place.amplitude + base; };
@@ -171,7 +171,7 @@ void paper_diagram(PlotSurface& s, const Model& m, Diagram d,
                            kBlack);
                 }
             }
-            s.SetDrawStyle(0);
+            s.SetDrawStyle(DrawStyle::Solid);
             const CurveMarks marks = curve_marks(m, d, *values, values == &upper, c, place, paper_labels());
             ink(s, "Arial", 7, false);
             for (const DiagramText& t : marks.texts) {
@@ -226,7 +226,7 @@ float PrintLoadPlots(PlotSurface& s, const Model& m, float x, float y)
 void PrintBeam(PlotSurface& s, const Model& m, float y)
 {
     const SpanColumns c = PlotSpanWidths(m, kLeft, kWidth);
-    s.SetFillStyle(1);
+    s.SetFillStyle(FillStyle::Transparent);
     for (int i = 1; i <= m.nf; ++i) {
         s.Line(c.start(i), y, c.start(i + 1), y + 1, kBlack, true);
         ink(s, "Arial", 7, false);

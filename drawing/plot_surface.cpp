@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cmath>
+#include <numbers>
 
 namespace kvelder {
 namespace {
@@ -22,23 +23,23 @@ QString text_of(std::string_view s)
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
 
-// The line patterns: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot, 5 none.
-Qt::PenStyle pen_style(int style)
+Qt::PenStyle pen_style(DrawStyle style)
 {
     switch (style) {
-    case 1:
+    case DrawStyle::Dash:
         return Qt::DashLine;
-    case 2:
+    case DrawStyle::Dot:
         return Qt::DotLine;
-    case 3:
+    case DrawStyle::DashDot:
         return Qt::DashDotLine;
-    case 4:
+    case DrawStyle::DashDotDot:
         return Qt::DashDotDotLine;
-    case 5:
+    case DrawStyle::Invisible:
         return Qt::NoPen;
-    default:
-        return Qt::SolidLine;
+    case DrawStyle::Solid:
+        break;
     }
+    return Qt::SolidLine;
 }
 
 } // namespace
@@ -73,7 +74,7 @@ void PlotSurface::begin()
     m_painter.begin(&m_device);
     m_font = QFont(QStringLiteral("Arial"));
     m_font.setPointSizeF(8);
-    SetScaleMode(3);
+    SetScaleMode(ScaleMode::Pixel);
 }
 
 int PlotSurface::PixelWidth() const
@@ -86,9 +87,9 @@ int PlotSurface::PixelHeight() const
     return m_device.height();
 }
 
-void PlotSurface::SetScaleMode(int mode)
+void PlotSurface::SetScaleMode(ScaleMode mode)
 {
-    if (mode == 3) {
+    if (mode == ScaleMode::Pixel) {
         m_left = 0;
         m_top = 0;
         m_width = static_cast<float>(PixelWidth());
@@ -151,7 +152,7 @@ void PlotSurface::Line(float x1, float y1, float x2, float y2, PlotColor color, 
     const QPointF b = to_device(x2, y2);
     m_painter.setPen(pen(color));
     if (box) {
-        m_painter.setBrush(m_fill_style == 0 ? QBrush(qt_color(m_fill)) : QBrush(Qt::NoBrush));
+        m_painter.setBrush(m_fill_style == FillStyle::Solid ? QBrush(qt_color(m_fill)) : QBrush(Qt::NoBrush));
         m_painter.drawRect(QRectF(a, b).normalized());
     } else if (a == b) {
         m_painter.drawPoint(a); // a line of no length is a dot, as on the screen
@@ -169,12 +170,12 @@ void PlotSurface::Circle(float x, float y, float radius, PlotColor color, float 
     const QRectF bounds(c.x() - r, c.y() - r, 2 * r, 2 * r);
     double span = static_cast<double>(end) - start;
     if (span <= 0) {
-        span += 2 * M_PI;
+        span += 2 * std::numbers::pi;
     }
     m_painter.setPen(pen(color));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawArc(bounds, static_cast<int>(std::lround(start * 180.0 / M_PI * 16)),
-                      static_cast<int>(std::lround(span * 180.0 / M_PI * 16)));
+    m_painter.drawArc(bounds, static_cast<int>(std::lround(start * 180.0 / std::numbers::pi * 16)),
+                      static_cast<int>(std::lround(span * 180.0 / std::numbers::pi * 16)));
     m_cursor_x = c.x();
     m_cursor_y = c.y();
 }

@@ -26,6 +26,16 @@ struct PixelPoint {
     std::int32_t y = 0;
 };
 
+// Pixel puts the scale on device pixels, origin at the top left; User keeps
+// the scale last set through SetScaleLeft .. SetScaleHeight.
+enum class ScaleMode { User, Pixel };
+
+// Whether a box is filled in FillColor or left open.
+enum class FillStyle { Solid, Transparent };
+
+// The pattern of a line; Invisible draws no line at all.
+enum class DrawStyle { Solid, Dash, Dot, DashDot, DashDotDot, Invisible };
+
 // A pixel coordinate as the polygon operation takes it: truncated towards 0,
 // held to a range far beyond any picture, and 0 for what is no number.
 std::int32_t to_pixel(double v);
@@ -46,8 +56,8 @@ public:
     PlotSurface(const PlotSurface&) = delete;
     PlotSurface& operator=(const PlotSurface&) = delete;
 
-    // ScaleMode 3: device pixels, origin at the top left. Setting it drops the user scale.
-    void SetScaleMode(int mode);
+    // Setting the pixel mode drops the user scale.
+    void SetScaleMode(ScaleMode mode);
     float ScaleLeft() const { return m_left; }
     float ScaleTop() const { return m_top; }
     float ScaleWidth() const { return m_width; }
@@ -84,9 +94,9 @@ public:
 
     void SetForeColor(PlotColor c) { m_fore = c; }
     void SetFillColor(PlotColor c) { m_fill = c; }
-    void SetFillStyle(int style) { m_fill_style = style; }
+    void SetFillStyle(FillStyle style) { m_fill_style = style; }
     void SetDrawWidth(int width) { m_draw_width = width; }
-    void SetDrawStyle(int style) { m_draw_style = style; }
+    void SetDrawStyle(DrawStyle style) { m_draw_style = style; }
     PlotColor ForeColor() const { return m_fore; }
     void SetFontName(std::string_view name);
     void SetFontSize(float points);
@@ -117,9 +127,9 @@ private:
     float m_left = 0, m_top = 0, m_width = 0, m_height = 0;
     double m_cursor_x = 0, m_cursor_y = 0; // device pixels
     PlotColor m_fore = 0, m_fill = 0;
-    int m_fill_style = 1;
+    FillStyle m_fill_style = FillStyle::Transparent;
     int m_draw_width = 1;
-    int m_draw_style = 0;
+    DrawStyle m_draw_style = DrawStyle::Solid;
 };
 
 } // namespace kvelder

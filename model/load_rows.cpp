@@ -70,7 +70,7 @@ std::int16_t& empty_flag(Model& m, LoadGroupId id)
 
 Picture picture_of(LoadGroupId id)
 {
-    return id == LoadGroupId::G ? Picture::Picegenlast
+    return id == LoadGroupId::G    ? Picture::Picegenlast
            : id == LoadGroupId::Q1 ? Picture::Picnyttelast
                                    : Picture::Picnyttelast_2;
 }
@@ -110,7 +110,8 @@ int row_count(const LoadGroup& g, LoadTable table)
 
 void set_row_count(LoadGroup& g, LoadTable table, int count)
 {
-    with_table(g, table, [count](auto& n, const auto&, const auto&) { n = static_cast<std::int16_t>(count); });
+    with_table(g, table,
+               [count](auto& n, const auto&, const auto&) { n = static_cast<std::int16_t>(count); });
 }
 
 LoadRow row(const LoadGroup& g, LoadTable table, int k)

@@ -13,8 +13,8 @@ enum class LoadGroupId { G, Q1, Q2 };
 enum class LoadTable { Uniform, Trapezoid, Point, Moment };
 
 inline constexpr std::array<LoadGroupId, 3> kLoadGroups{LoadGroupId::G, LoadGroupId::Q1, LoadGroupId::Q2};
-inline constexpr std::array<LoadTable, 4> kLoadTables{LoadTable::Uniform, LoadTable::Trapezoid, LoadTable::Point,
-                                                      LoadTable::Moment};
+inline constexpr std::array<LoadTable, 4> kLoadTables{LoadTable::Uniform, LoadTable::Trapezoid,
+                                                      LoadTable::Point, LoadTable::Moment};
 
 // "G", "Q1" or "Q2".
 const char* group_name(LoadGroupId id);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "recalc/calc_screen.h"
 #include "model/model.h"
+#include "recalc/calc_screen.h"
 
 #include <filesystem>
 

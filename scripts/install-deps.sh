@@ -9,6 +9,8 @@ packages=(
   libgtest-dev libgmock-dev googletest
   libbenchmark-dev
   nlohmann-json3-dev
+  # the fuzz preset: clang, its libFuzzer and sanitizer runtimes, llvm-symbolizer for the reports
+  clang libclang-rt-dev llvm
   fonts-liberation fontconfig
 )
 

@@ -40,7 +40,8 @@ std::optional<ProjectFailure> open_project(Model& m, const std::filesystem::path
     return std::nullopt;
 }
 
-std::optional<std::string> open_project_bytes(Model& m, std::span<const std::byte> bytes, LoadDialogs& dialogs)
+std::optional<std::string> open_project_bytes(Model& m, std::span<const std::byte> bytes,
+                                              LoadDialogs& dialogs)
 {
     if (auto failure = ReadProjectBytes(m, bytes, dialogs)) {
         return failure;

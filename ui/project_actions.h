@@ -21,7 +21,8 @@ void new_project(Model& m, LoadDialogs& dialogs);
 // recalculation that follows, with loading_flag still set for it to clear.
 std::optional<ProjectFailure> open_project(Model& m, const std::filesystem::path& path, LoadDialogs& dialogs);
 // The same from the bytes of a file; why they are no project, if they are not.
-std::optional<std::string> open_project_bytes(Model& m, std::span<const std::byte> bytes, LoadDialogs& dialogs);
+std::optional<std::string> open_project_bytes(Model& m, std::span<const std::byte> bytes,
+                                              LoadDialogs& dialogs);
 
 // Saves the beam in one step; on failure the file on disk and the beam are as they were.
 std::optional<ProjectFailure> save_project(Model& m, const std::filesystem::path& path);

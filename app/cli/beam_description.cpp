@@ -8,8 +8,8 @@
 #include <array>
 #include <cmath>
 #include <memory>
-#include <stdexcept>
 #include <optional>
+#include <stdexcept>
 #include <string_view>
 
 namespace kvelder::cli {
@@ -177,7 +177,6 @@ std::optional<std::int16_t> chosen_row(const json& d, const char* index_key, con
     fail(name_key, unknown + " \"" + name + "\"");
 }
 
-
 void choose_setup(Model& m, const json& d)
 {
     const auto annex_of = [&m](int r) { return m.setup.setup_table[static_cast<std::size_t>(r)].annex; };
@@ -224,7 +223,8 @@ void choose_geometry(Model& m, const json& d, LoadDialogs& dialogs)
     for (int k = 1; k <= kMaxSpans; ++k) {
         m.l_stag(k) = m.ffl_s(k);
     }
-    for (const auto& [key, end] : {std::pair{"nsupLeft_s", BeamEnd::Left}, std::pair{"nsupRight_s", BeamEnd::Right}}) {
+    for (const auto& [key, end] :
+         {std::pair{"nsupLeft_s", BeamEnd::Left}, std::pair{"nsupRight_s", BeamEnd::Right}}) {
         if (d.contains(key)) {
             choose_support(m, end, text(d[key], key, {"F", "R", "I"}).front(), dialogs);
         }

@@ -114,8 +114,8 @@ bool calculate(Model& m, std::vector<Message>& messages, std::ostream& err)
     messages.insert(messages.end(), screen.messages.begin(), screen.messages.end());
     for (const LoadRowFailure& f : screen.load_failures) {
         if (!failure_message(m.language, f)) {
-            err << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row " << f.row
-                << ": the span number is not a span of the beam (check " << f.code << ")\n";
+            err << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row "
+                << f.row << ": the span number is not a span of the beam (check " << f.code << ")\n";
         }
     }
     return screen.messages.empty() && screen.load_failures.empty();
@@ -266,7 +266,8 @@ int run_bench(const Options& o, std::ostream& out, std::ostream& err)
         std::sort(times.begin(), times.end());
         const std::size_t mid = times.size() / 2;
         const double median = times.size() % 2 == 1 ? times[mid] : (times[mid - 1] + times[mid]) / 2;
-        out << nlohmann::ordered_json{{"runs", o.runs}, {"median_us", median}, {"min_us", times.front()}}.dump()
+        out << nlohmann::ordered_json{{"runs", o.runs}, {"median_us", median}, {"min_us", times.front()}}
+                   .dump()
             << '\n';
         return kCalculated;
     });

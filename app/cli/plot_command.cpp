@@ -7,8 +7,8 @@
 #include <QtGlobal>
 
 #include <array>
-#include <optional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace kvelder::cli {
@@ -23,8 +23,9 @@ void choose_headless_platform()
     // Qt wants a private runtime folder and complains on stderr without one.
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
         std::error_code ec;
-        const std::filesystem::path runtime = std::filesystem::temp_directory_path(ec) /
-                                              ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
+        const std::filesystem::path runtime =
+            std::filesystem::temp_directory_path(ec) /
+            ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
         std::filesystem::create_directory(runtime, ec);
         std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
         if (!ec) {

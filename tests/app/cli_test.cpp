@@ -431,8 +431,8 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
                 continue;
             }
             const std::string bytes = file_text(folder / trace);
-            const QByteArray sha = QCryptographicHash::hash(QByteArray::fromStdString(bytes),
-                                                            QCryptographicHash::Sha256);
+            const QByteArray sha =
+                QCryptographicHash::hash(QByteArray::fromStdString(bytes), QCryptographicHash::Sha256);
             EXPECT_EQ(sha.toHex().toStdString(), expected->second) << name << "/" << trace;
         }
         ++beams;
@@ -444,8 +444,9 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
 // list of the new family falls to its middle and the circle follows.
 TEST(CliCalc, AFamilyThenACircleCalculatesTheCircle)
 {
-    const CliRun r = run("calc " + description("family_circle.json",
-                                               R"({"prof_type_index": 0, "section_form": "Tube", "section_d": 240})"));
+    const CliRun r =
+        run("calc " + description("family_circle.json",
+                                  R"({"prof_type_index": 0, "section_form": "Tube", "section_d": 240})"));
     ASSERT_EQ(r.exit, 0) << r.err;
     const json result = json::parse(r.out);
     EXPECT_EQ(result["section"]["section_form"], "Tube");
@@ -458,7 +459,8 @@ TEST(CliCalc, ADescriptionThatIsRefusedChangesNothing)
     auto m = example_beam();
     const auto before = std::make_unique<Model>(*m);
     const auto failed = cli::apply_description(
-        *m, json::parse(R"({"ffl_s": [3.0, 4.0, 5.0], "nsupLeft_s": "I", "section_b": 90, "material": "C99"})"));
+        *m,
+        json::parse(R"({"ffl_s": [3.0, 4.0, 5.0], "nsupLeft_s": "I", "section_b": 90, "material": "C99"})"));
     ASSERT_TRUE(failed);
     EXPECT_NE(failed->find("\"material\""), std::string::npos) << *failed;
     EXPECT_TRUE(*m == *before);

@@ -144,8 +144,7 @@ TEST(Pictures, ThreeSpansWithEveryKindOfLoad)
     EXPECT_GT(count(p[Picture::Picresult], kGreen), 200);
     EXPECT_GT(count(p[Picture::Picresult], kCurveBlue), 200);
     EXPECT_GT(count_if(p[Picture::Picresult], reddish), 20);
-    EXPECT_GT(count(p[Picture::Picdisp], kLightGreen) + count(p[Picture::Picdisp], kCurveBlue),
-              200);
+    EXPECT_GT(count(p[Picture::Picdisp], kLightGreen) + count(p[Picture::Picdisp], kCurveBlue), 200);
     // The span sketch: three columns of 16 % from 10 %, the rest of the width empty.
     const QImage& felt = p[Picture::Picfelt];
     EXPECT_GT(count(felt, kBeamRed, 84, 87), 100);

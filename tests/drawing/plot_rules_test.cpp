@@ -2,9 +2,9 @@
 
 #include "drawing/load_plot.h"
 #include "drawing/result_plot.h"
+#include "files/number_format.h"
 #include "recalc/main_calc.h"
 #include "tests/support/beams.h"
-#include "files/number_format.h"
 
 #include <gtest/gtest.h>
 

@@ -42,7 +42,7 @@ TEST(PlotSurface, PixelModeDropsTheUserScaleAndKeepsTheCursorsPlace)
     SetPlotScale(s, 0, 100, 100, 0);
     s.SetCurrentX(50);
     s.SetCurrentY(25);
-    s.SetScaleMode(3);
+    s.SetScaleMode(ScaleMode::Pixel);
     EXPECT_EQ(s.ScaleWidth(), 400.0F);
     EXPECT_EQ(s.ScaleHeight(), 200.0F);
     EXPECT_FLOAT_EQ(s.CurrentX(), 200.0F); // the same place, read in pixels
@@ -102,10 +102,10 @@ TEST(PlotSurface, BoxesArcsAndClearing)
     QImage image = blank();
     PlotSurface s(image);
     SetPlotScale(s, 0, 100, 100, 0);
-    s.SetFillStyle(0);
+    s.SetFillStyle(FillStyle::Solid);
     s.SetFillColor(255);
     s.Line(10, 10, 30, 20, 255, true);
-    s.SetScaleMode(3);
+    s.SetScaleMode(ScaleMode::Pixel);
     s.Circle(300, 100, 40, 0, 0.0F, 3.14F); // the upper half, as seen
     EXPECT_EQ(image.pixelColor(80, 170), QColor(255, 0, 0));
     EXPECT_EQ(image.pixelColor(300, 60), QColor(Qt::black));

@@ -1,44 +1,25 @@
 // libFuzzer entry: any bytes as a project file. A file that opens is
 // recalculated as the window would; a refused one must leave the model as it was.
 
-#include "files/project_file.h"
-#include "files/start_values.h"
-#include "recalc/main_calc.h"
-#include "ui/input_checks.h"
+#include "tests/fuzz/fuzz_model.h"
+#include "ui/project_actions.h"
 
 #include <cstdlib>
-#include <memory>
 
 using namespace kvelder;
-
-namespace {
-
-const Model& example()
-{
-    static const std::unique_ptr<Model> m = [] {
-        auto beam = std::make_unique<Model>();
-        start_up(*beam, KVELDER_SOURCE_DATA_DIR);
-        return beam;
-    }();
-    return *m;
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static auto m = std::make_unique<Model>();
-    *m = example();
+    *m = fuzz::example();
     LoadDialogs dialogs;
     const std::span<const std::byte> bytes(reinterpret_cast<const std::byte*>(data), size);
-    if (ReadProjectBytes(*m, bytes, dialogs)) {
-        if (!(*m == example())) {
+    if (open_project_bytes(*m, bytes, dialogs)) {
+        if (!(*m == fuzz::example())) {
             std::abort(); // a refused file changed the model
         }
         return 0;
     }
-    check_all_boxes(*m);
-    RecordingScreen screen;
-    MainCalc(*m, screen, "/tmp");
+    fuzz::recalculate(*m);
     return 0;
 }

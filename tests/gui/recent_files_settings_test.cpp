@@ -1,7 +1,7 @@
 // The recent files in the user's settings: the names under which they are kept.
 
-#include "tests/support/beams.h"
 #include "gui/recent_files_settings.h"
+#include "tests/support/beams.h"
 
 #include <QSettings>
 #include <gtest/gtest.h>

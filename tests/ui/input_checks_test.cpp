@@ -1,9 +1,9 @@
 // The checks of single boxes, of the spans and supports, and the change of the
 // number of spans.
 
+#include "files/number_format.h"
 #include "tests/support/beams.h"
 #include "ui/input_checks.h"
-#include "files/number_format.h"
 
 #include <gtest/gtest.h>
 

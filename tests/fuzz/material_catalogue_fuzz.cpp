@@ -1,0 +1,39 @@
+// libFuzzer entry: any bytes as the material catalogue. A catalogue without a
+// row is refused and the program starts on its shipped copy; any other starts
+// the example beam, and the point machine's reading is recalculated.
+
+#include "files/catalogue.h"
+#include "tests/fuzz/fuzz_model.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+using namespace kvelder;
+
+namespace {
+
+bool start_on(Model& m, std::string_view text, std::int16_t decimal_comma)
+{
+    m = fuzz::example();
+    ReadNotes notes;
+    m.material_table = ReadMaterialCatalogue(text, decimal_comma, notes);
+    if (row_count(m.material_table) == 0) {
+        return false;
+    }
+    StartSection(m);
+    return true;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static auto m = std::make_unique<Model>();
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    start_on(*m, text, 1);
+    if (start_on(*m, text, 0)) {
+        fuzz::recalculate(*m);
+    }
+    return 0;
+}
