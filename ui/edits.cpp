@@ -8,6 +8,7 @@
 #include "ui/change_beam.h"
 #include "ui/load_checks.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -15,6 +16,17 @@ namespace kvelder {
 namespace {
 
 constexpr int kKerto = 2;
+
+// Lateral bracing at the span ends and the factor of a simply supported span:
+// what the buckling data start from after the spans, an end support or the
+// section changed.
+void reset_buckling_data(Model& m)
+{
+    for (int i = 1; i <= m.nf; ++i) {
+        m.l_stag(i) = m.ffl_s(i);
+        m.lef_factor(i) = 0.9F;
+    }
+}
 
 bool rectangles_only(const Model& m)
 {
@@ -67,6 +79,9 @@ void drop_rows_on_support(const Model& m, LoadDialogTexts& dialog, BeamEnd end, 
 
 void choose_family(Model& m, int family)
 {
+    if (family < 0 || family > 3) {
+        return; // no family of the list
+    }
     m.prof_type_index = static_cast<std::int16_t>(family);
     m.material_family = family_code(family);
     m.section_form = "Firk";
@@ -84,12 +99,18 @@ void choose_family(Model& m, int family)
 
 void choose_profile(Model& m, int index)
 {
+    if (index < 0 || index >= family_size(m)) {
+        return; // no row of the list
+    }
     m.prof_index = static_cast<std::int16_t>(index);
     Read_profile_dimensions(m, m.prof_type_index, m.prof_index);
 }
 
 void choose_material(Model& m, int row)
 {
+    if (row < 0 || row > std::min<int>(m.material_table.last_row, MaterialTable::kRows - 1)) {
+        return; // no row of the catalogue
+    }
     m.material_row = static_cast<std::int16_t>(row);
 }
 
@@ -114,6 +135,7 @@ void choose_section_option(Model& m, SectionOption option)
         m.section_form = "Tube";
         m.vipping_off = kTrue;
         m.standard_section = kFalse;
+        reset_buckling_data(m);
         break;
     }
 }
@@ -137,6 +159,10 @@ std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dial
         m.ffl_s(i) = 0; // its box is hidden and empty
     }
     ChangeBeam(m, dialogs);
+    if (nf == 1) {
+        m.loadcomb_option = 1; // one span has no patterns
+    }
+    reset_buckling_data(m);
     return check_spans(m);
 }
 
@@ -156,6 +182,7 @@ std::optional<Message> choose_support(Model& m, BeamEnd end, char kind, LoadDial
 {
     (end == BeamEnd::Left ? m.nsupLeft_s : m.nsupRight_s) = kind;
     std::optional<Message> message = check_supports(m);
+    reset_buckling_data(m);
     for (LoadGroupId id : {LoadGroupId::G, LoadGroupId::Q1}) {
         drop_rows_on_support(m, dialog_of(dialogs, id), end, kind);
         CompactRows(dialog_of(dialogs, id));

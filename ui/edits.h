@@ -20,7 +20,8 @@ namespace kvelder {
 // k_bjelke are free rectangles and not made for service class 3, which falls
 // back to 2. The profile list then holds the new family: a selection it does
 // not hold falls to its middle, and the section takes the selected profile's
-// width and height, as a choice in that list would.
+// width and height, as a choice in that list would. An index that no list
+// holds changes nothing, here and in the two choices below.
 void choose_family(Model& m, int family);
 
 // A row of the family's profile list: its width and height become the section's.
@@ -37,6 +38,9 @@ enum class SectionOption { Standard, Rectangle, Circle };
 bool section_option_enabled(const Model& m, SectionOption option);
 // A catalogue profile (sizes from the profile list), a free rectangle, or a
 // circle, which has no lateral buckling check.
+//
+// A new number of spans, a new end support and the circle set the buckling
+// data of every span back to its length and a factor of 0.9.
 void choose_section_option(Model& m, SectionOption option);
 
 // txt_b1, txt_h1, txt_d: the size is stored as typed; the message of one that fails.
@@ -49,8 +53,9 @@ std::optional<Message> set_bearing(Model& m, int node, Box box, float value);
 
 // A new number of spans: the span boxes beyond it empty, both end supports
 // simple again, and the load rows on spans that are gone dropped from the
-// dialogs and the beam. The message of the span check, since a span that is
-// new has no length yet. Two simple ends always stand.
+// dialogs and the beam; one span has no patterns of Q1. The message of the
+// span check, since a span that is new has no length yet. Two simple ends
+// always stand.
 std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dialogs);
 
 // The length of span `span` (1-based). When every span has a length, the rows

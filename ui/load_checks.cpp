@@ -296,6 +296,15 @@ LoadDialogTexts dialog_texts(const LoadGroup& g, std::int16_t decimal_comma)
     return texts;
 }
 
+LoadDialogs load_dialogs(const Model& m)
+{
+    LoadDialogs dialogs;
+    for (LoadGroupId id : kLoadGroups) {
+        dialogs[static_cast<std::size_t>(id)] = dialog_texts(group_of(m, id), m.decimal_comma);
+    }
+    return dialogs;
+}
+
 void CompactRows(LoadDialogTexts& texts)
 {
     for (std::vector<RowTexts>& frame : texts.frames) {

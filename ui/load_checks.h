@@ -26,6 +26,9 @@ std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts
 // "0.00", as a project fills them.
 LoadDialogTexts dialog_texts(const LoadGroup& g, std::int16_t decimal_comma);
 
+// The three dialogs of a beam's groups.
+LoadDialogs load_dialogs(const Model& m);
+
 // Closes the gaps of a dialog: rows whose span box is empty go, the others
 // keep their order.
 void CompactRows(LoadDialogTexts& texts);

@@ -25,9 +25,8 @@ void check_new_beam(Model& m)
 void new_project(Model& m, LoadDialogs& dialogs)
 {
     StartProject(m);
-    for (LoadGroupId id : kLoadGroups) {
-        dialogs[static_cast<std::size_t>(id)] = dialog_texts(group_of(m, id), m.decimal_comma);
-    }
+    dialogs = load_dialogs(m);
+    m.err_load_item = kFalse;
     check_new_beam(m);
 }
 

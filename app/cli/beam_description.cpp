@@ -218,8 +218,8 @@ void choose_geometry(Model& m, const json& d, LoadDialogs& dialogs)
         for (int i = 1; i <= nf; ++i) {
             set_span_length(m, i, lengths(i), dialogs);
         }
-        m.lef_factor.fill(0.9F);
     }
+    // Without "l_stag" the braces stand at the span ends, whatever the order of the keys.
     for (int k = 1; k <= kMaxSpans; ++k) {
         m.l_stag(k) = m.ffl_s(k);
     }
@@ -349,10 +349,7 @@ void apply(Model& m, const json& d)
             (key[0] == 'p' ? m.prosjekt_s : m.id_s) = d[key].get<std::string>();
         }
     }
-    LoadDialogs dialogs;
-    for (LoadGroupId id : kLoadGroups) {
-        dialogs[static_cast<std::size_t>(id)] = dialog_texts(group_of(m, id), m.decimal_comma);
-    }
+    LoadDialogs dialogs = load_dialogs(m);
     choose_setup(m, d);
     choose_geometry(m, d, dialogs);
     choose_section(m, d);

@@ -59,9 +59,11 @@ void read_description(Model& m, const fs::path& input)
     if (!text) {
         stop(kUsageError, input.string() + ": cannot be read");
     }
-    const nlohmann::json description = nlohmann::json::parse(*text, nullptr, false);
-    if (description.is_discarded()) {
-        stop(kUsageError, input.string() + ": not valid JSON");
+    nlohmann::json description;
+    try {
+        description = nlohmann::json::parse(*text);
+    } catch (const nlohmann::json::parse_error& e) {
+        stop(kUsageError, input.string() + ": not valid JSON (" + e.what() + ")");
     }
     if (const auto failed = apply_description(m, description)) {
         stop(kUsageError, input.string() + ": " + *failed);
@@ -105,20 +107,28 @@ std::vector<Message> prepare(Model& m, const Options& o, std::ostream& err)
     return check_all_boxes(m);
 }
 
-// One recalculation; false when it raised a message. A failing load row
-// without a message of its own still fails the run.
-bool calculate(Model& m, std::vector<Message>& messages, std::ostream& err)
+// The messages of the checks, then of one recalculation when the checks
+// passed; `calculated` is false when anything failed, also a load row without
+// a message of its own.
+struct Outcome {
+    std::vector<Message> messages;
+    bool calculated = false;
+};
+
+Outcome calculate(Model& m, std::vector<Message> checks, std::ostream& err)
 {
+    if (!checks.empty()) {
+        return {std::move(checks), false};
+    }
     RecordingScreen screen;
     MainCalc(m, screen);
-    messages.insert(messages.end(), screen.messages.begin(), screen.messages.end());
     for (const LoadRowFailure& f : screen.load_failures) {
         if (!failure_message(m.language, f)) {
             err << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row "
                 << f.row << ": the span number is not a span of the beam (check " << f.code << ")\n";
         }
     }
-    return screen.messages.empty() && screen.load_failures.empty();
+    return {screen.messages, screen.messages.empty() && screen.load_failures.empty()};
 }
 
 int report_failure(const std::vector<Message>& messages, std::ostream& err)
@@ -184,17 +194,17 @@ int run_calc(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        std::vector<Message> messages = prepare(*m, o, err);
-        if (!messages.empty() || !calculate(*m, messages, err)) {
+        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        if (!run.calculated) {
             if (!o.text) {
-                out << nlohmann::ordered_json{{"messages", messages_json(messages)}}.dump(2) << '\n';
+                out << nlohmann::ordered_json{{"messages", messages_json(run.messages)}}.dump(2) << '\n';
             }
-            return report_failure(messages, err);
+            return report_failure(run.messages, err);
         }
         if (o.text) {
             out << result_text(*m);
         } else {
-            out << result_json(*m, messages).dump(2) << '\n';
+            out << result_json(*m, run.messages).dump(2) << '\n';
         }
         return kCalculated;
     });
@@ -204,12 +214,12 @@ int run_save(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        std::vector<Message> messages = prepare(*m, o, err);
         // The factors of the last recalculation travel in the file, as when the
         // window saves.
-        if (!messages.empty() || !calculate(*m, messages, err)) {
+        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        if (!run.calculated) {
             err << "kvelder-cli: the beam fails its checks; " << o.output->string() << " is not written\n";
-            return report_failure(messages, err);
+            return report_failure(run.messages, err);
         }
         if (const auto failed = save_project(*m, *o.output)) {
             stop(kUsageError, project_message(m->language, *failed).text);
@@ -235,9 +245,9 @@ int run_plot(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        std::vector<Message> messages = prepare(*m, o, err);
-        if (!messages.empty() || !calculate(*m, messages, err)) {
-            return report_failure(messages, err);
+        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        if (!run.calculated) {
+            return report_failure(run.messages, err);
         }
         if (const auto failed = write_pictures(*m, *o.output, o.width, o.height)) {
             stop(kUsageError, *failed);
@@ -250,9 +260,9 @@ int run_bench(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        std::vector<Message> messages = prepare(*m, o, err);
-        if (!messages.empty() || !calculate(*m, messages, err)) { // the warm-up run
-            return report_failure(messages, err);
+        const Outcome warm_up = calculate(*m, prepare(*m, o, err), err);
+        if (!warm_up.calculated) {
+            return report_failure(warm_up.messages, err);
         }
         std::vector<double> times;
         times.reserve(static_cast<std::size_t>(o.runs));

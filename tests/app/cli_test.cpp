@@ -57,10 +57,12 @@ std::vector<std::string> words(const std::string& line)
 CliRun run(const std::string& args, const fs::path& folder = scratch_folder())
 {
     fs::create_directories(folder);
+    const fs::path before = fs::current_path();
     fs::current_path(folder);
     std::ostringstream out, err;
     CliRun r;
     r.exit = cli::run_cli(words(args), source_data_dir(), out, err);
+    fs::current_path(before);
     r.out = out.str();
     r.err = err.str();
     return r;
@@ -203,6 +205,11 @@ TEST(CliCalc, UsageAndFileErrorsExitTwo)
         EXPECT_EQ(r.exit, 2) << args;
         EXPECT_FALSE(r.err.empty()) << args;
     }
+    // Asked for, the usage is the answer and goes to the output.
+    const CliRun help = run("--help");
+    EXPECT_EQ(help.exit, 0);
+    EXPECT_EQ(help.out.rfind("usage: kvelder-cli calc", 0), 0U) << help.out;
+    EXPECT_TRUE(help.err.empty());
 }
 
 TEST(CliCalc, MissingDataFilesAreReportedAndTheShippedOnesUsed)
@@ -423,6 +430,7 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
         const fs::path folder = scratch_folder() / "golden" / name;
         fs::remove_all(folder);
         const CliRun r = run("calc '" + entry.path().string() + "'", folder);
+        EXPECT_EQ(r.exit, name == "refused" ? 1 : 0) << name;
         EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
         for (const char* trace : {"Resultater", "Geometri"}) {
             const auto expected = digests.find(name + "/" + trace);

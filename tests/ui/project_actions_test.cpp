@@ -2,9 +2,12 @@
 
 #include "recalc/main_calc.h"
 #include "tests/support/beams.h"
+#include "ui/load_checks.h"
 #include "ui/project_actions.h"
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace kvelder::test {
 namespace {
@@ -42,16 +45,29 @@ TEST(OpenProject, ABeamThatCannotBeCalculatedStopsAtTheGate)
     EXPECT_EQ(m->err_supports, kTrue);
 }
 
+// A project cut short in its last block fails after the catalogues and the
+// setup were read: still nothing of it may reach the beam.
 TEST(OpenProject, AFailedOpenChangesNothing)
 {
+    auto other = example_beam();
+    other->nf = 1;
+    other->G.uni_q(1) = 7.5F;
+    std::vector<std::byte> bytes = project_bytes(*other);
+    bytes.resize(bytes.size() - 40);
+    const fs::path path = scratch_folder() / "cut.kvel";
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+
     auto m = example_beam();
+    m->ffl_s(2) = 0; // flags the checks of a successful open would clear
+    m->err_spans = kTrue;
     const auto before = std::make_unique<Model>(*m);
-    LoadDialogs dialogs;
-    dialogs[0].frames[0].push_back({"1", "2.00"});
+    LoadDialogs dialogs = load_dialogs(*m);
     const LoadDialogs dialogs_before = dialogs;
-    const auto failed = open_project(*m, scratch_folder() / "no such project.kvel", dialogs);
+    const auto failed = open_project(*m, path, dialogs);
     ASSERT_TRUE(failed);
-    EXPECT_EQ(failed->kind, ProjectFailure::Kind::FileNotFound);
+    EXPECT_EQ(failed->kind, ProjectFailure::Kind::NotAProject);
+    EXPECT_TRUE(open_project_bytes(*m, bytes, dialogs).has_value());
     EXPECT_TRUE(*m == *before);
     EXPECT_EQ(dialogs, dialogs_before);
 }
