@@ -148,12 +148,18 @@ std::optional<Message> set_section_size(Model& m, Box box, float value)
 
 std::optional<Message> set_bearing(Model& m, int node, Box box, float value)
 {
+    if (node < 1 || node > m.nnodes) {
+        return std::nullopt; // no support of the beam
+    }
     (box == Box::Kc90 ? m.bearing_kc90 : m.bearing_length)(node) = value;
     return check_box(m, box, value);
 }
 
 std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dialogs)
 {
+    if (nf < 1 || nf > kMaxSpans) {
+        return std::nullopt; // no option of the window
+    }
     m.nf = static_cast<std::int16_t>(nf);
     for (int i = nf + 1; i <= kMaxSpans; ++i) {
         m.ffl_s(i) = 0; // its box is hidden and empty
@@ -168,6 +174,9 @@ std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dial
 
 std::optional<SpanFailure> set_span_length(Model& m, int span, float length, LoadDialogs& dialogs)
 {
+    if (span < 1 || span > m.nf) {
+        return std::nullopt; // no span box on show
+    }
     m.ffl_s(span) = length;
     if (auto failure = check_spans(m)) {
         return failure;
@@ -265,6 +274,9 @@ int psi_list_size(PsiList list)
 
 void choose_psi(Model& m, PsiList list, int index)
 {
+    if (index < 0 || index >= psi_list_size(list)) {
+        return; // no value of the list
+    }
     const auto i = static_cast<std::int16_t>(index);
     switch (list) {
     case PsiList::Psi0_Q1:

@@ -46,7 +46,8 @@ void choose_section_option(Model& m, SectionOption option);
 // txt_b1, txt_h1, txt_d: the size is stored as typed; the message of one that fails.
 std::optional<Message> set_section_size(Model& m, Box box, float value);
 
-// Txt_kc90, Txt_opp_L of one node (1 .. nnodes).
+// Txt_kc90, Txt_opp_L of one node (1 .. nnodes). Spans, nodes and list
+// positions the window does not show change nothing.
 std::optional<Message> set_bearing(Model& m, int node, Box box, float value);
 
 // --- Spans and supports (Optfelt, Txtfelt, optSuppLeft, optSuppRight) ---------
