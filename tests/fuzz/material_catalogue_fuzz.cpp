@@ -29,11 +29,5 @@ bool start_on(Model& m, std::string_view text, std::int16_t decimal_comma)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static auto m = std::make_unique<Model>();
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
-    start_on(*m, text, 1);
-    if (start_on(*m, text, 0)) {
-        fuzz::recalculate(*m);
-    }
-    return 0;
+    return fuzz::read_both_ways(data, size, start_on);
 }
