@@ -110,4 +110,20 @@ std::string from_windows_1252(std::string_view bytes)
     return out;
 }
 
+std::string as_utf8(std::string_view text)
+{
+    for (std::size_t at = 0; at < text.size();) {
+        if (static_cast<unsigned char>(text[at]) < 0x80) {
+            ++at;
+            continue;
+        }
+        const std::size_t length = decode_utf8(text, at).second;
+        if (length == 0) {
+            return from_windows_1252(text);
+        }
+        at += length;
+    }
+    return std::string(text);
+}
+
 } // namespace kvelder

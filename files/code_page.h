@@ -18,4 +18,8 @@ std::string to_windows_1252(std::string_view utf8);
 // the control characters of the same number, as Windows maps them.
 std::string from_windows_1252(std::string_view bytes);
 
+// A text as UTF-8 for showing it: the text itself where it is valid UTF-8,
+// otherwise its bytes read as Windows-1252, as a data file from Windows holds them.
+std::string as_utf8(std::string_view text);
+
 } // namespace kvelder

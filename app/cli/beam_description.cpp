@@ -1,5 +1,6 @@
 #include "app/cli/beam_description.h"
 
+#include "files/code_page.h"
 #include "model/load_rows.h"
 #include "ui/edits.h"
 #include "ui/load_checks.h"
@@ -233,7 +234,9 @@ void choose_geometry(Model& m, const json& d, LoadDialogs& dialogs)
 
 void choose_section(Model& m, const json& d)
 {
-    const auto name_of = [&m](int r) { return m.material_table.rows[static_cast<std::size_t>(r)].name; };
+    const auto name_of = [&m](int r) {
+        return as_utf8(m.material_table.rows[static_cast<std::size_t>(r)].name);
+    };
     if (const auto row = chosen_row(d, "material_row", "material", m.material_table.last_row, name_of,
                                     "the material catalogue has no class")) {
         choose_material(m, *row);

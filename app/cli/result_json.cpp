@@ -1,6 +1,7 @@
 #include "app/cli/result_json.h"
 
 #include "design/section_checks.h"
+#include "files/code_page.h"
 
 #include <charconv>
 #include <cmath>
@@ -148,7 +149,7 @@ ordered_json result_json(const Model& m, const std::vector<Message>& messages)
             {"npatterns", m.npatterns},
             {"factors", factors(m)},
             {"material",
-             {{"name", material.name},
+             {{"name", as_utf8(material.name)},
               {"fmk", single(m.fmk)},
               {"fvk", single(m.fvk)},
               {"fc90k", single(m.fc90k)},

@@ -1,6 +1,7 @@
 #include "app/cli/result_text.h"
 
 #include "design/section_checks.h"
+#include "files/code_page.h"
 #include "files/number_format.h"
 #include "ui/result_columns.h"
 
@@ -62,8 +63,8 @@ std::string result_text(const Model& m)
     out += "   " + std::string(m.comb_rule == "610a" ? "6.10a" : "6.10b");
     out += m.loadcomb_option == 2 ? "   load patterns: " : "   total variable load, cases: ";
     out += std::to_string(m.npatterns) + "\n";
-    out += "Material " + material.name + ":  fm,k " + f.fmk + "  fv,k " + f.fvk + "  fc,90,k " + f.fc90k +
-           "  E0,mean " + format_number(m.E0_mean, "0") + " MPa\n";
+    out += "Material " + as_utf8(material.name) + ":  fm,k " + f.fmk + "  fv,k " + f.fvk + "  fc,90,k " +
+           f.fc90k + "  E0,mean " + format_number(m.E0_mean, "0") + " MPa\n";
     if (m.section_form == "Tube") {
         out += "Section: circle d = " + format_number(m.section_d, "0") + " mm";
     } else {

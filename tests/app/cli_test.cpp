@@ -68,6 +68,12 @@ CliRun run(const std::string& args, const fs::path& folder = scratch_folder())
     return r;
 }
 
+std::string file_text(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
 // A description written to the scratch folder; its path for the command line.
 std::string description(const std::string& name, const std::string& text)
 {
@@ -210,6 +216,27 @@ TEST(CliCalc, MissingDataFilesAreReportedAndTheShippedOnesUsed)
         EXPECT_NE(r.err.find((empty / file).string()), std::string::npos) << file;
     }
     EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30c");
+}
+
+// A catalogue saved on Windows holds its names in Windows-1252; they read as
+// the same letters in the results and in a description.
+TEST(CliCalc, ACatalogueFromWindowsKeepsItsLetters)
+{
+    const fs::path folder = scratch_folder() / "windows_data";
+    fs::create_directories(folder);
+    for (const char* file : {"EC5Profile.csv", "Kveldersetup.csv"}) {
+        fs::copy_file(source_data_dir() / file, folder / file, fs::copy_options::overwrite_existing);
+    }
+    std::string materials = file_text(source_data_dir() / "EC5Material.csv");
+    materials.replace(materials.find("GL30c;"), 6, "GL30\xF8;");
+    std::ofstream(folder / "EC5Material.csv", std::ios::binary) << materials;
+    const std::string data = " --data-dir '" + folder.string() + "'";
+
+    CliRun r = run("calc" + data);
+    ASSERT_EQ(r.exit, 0) << r.err;
+    EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30\u00f8");
+    r = run("calc " + description("by_name.json", R"({"material": "GL30\u00f8"})") + data);
+    EXPECT_EQ(r.exit, 0) << r.err;
 }
 
 TEST(CliOutput, TextAndBench)
@@ -393,12 +420,6 @@ TEST(CliPlot, WrongRequestsExitTwo)
     const CliRun r = run("plot -o '" + blocked.string() + "'");
     EXPECT_EQ(r.exit, 2);
     EXPECT_NE(r.err.find("no folder"), std::string::npos) << r.err;
-}
-
-std::string file_text(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 // The results and both trace files of a set of beams, kept from before the
