@@ -189,6 +189,9 @@ std::optional<SpanFailure> set_span_length(Model& m, int span, float length, Loa
 
 std::optional<Message> choose_support(Model& m, BeamEnd end, char kind, LoadDialogs& dialogs)
 {
+    if (kind != kFree && kind != kSimple && kind != kBuiltIn) {
+        return std::nullopt;
+    }
     (end == BeamEnd::Left ? m.nsupLeft_s : m.nsupRight_s) = kind;
     std::optional<Message> message = check_supports(m);
     reset_buckling_data(m);
@@ -208,11 +211,17 @@ void set_self_weight(Model& m, bool on)
 
 void choose_load_combination(Model& m, int option)
 {
+    if (option != 1 && option != 2) {
+        return;
+    }
     m.loadcomb_option = static_cast<std::int16_t>(option);
 }
 
-void choose_comb_rule(Model& m, const char* rule)
+void choose_comb_rule(Model& m, std::string_view rule)
 {
+    if (rule != "610a" && rule != "610b") {
+        return;
+    }
     m.comb_rule = rule;
 }
 
@@ -233,11 +242,17 @@ bool service_class_enabled(const Model& m, int service_class)
 
 void choose_service_class(Model& m, int service_class)
 {
+    if (service_class < 1 || service_class > 3 || !service_class_enabled(m, service_class)) {
+        return;
+    }
     m.service_class = static_cast<std::int16_t>(service_class);
 }
 
 void choose_duration_class(Model& m, int duration_class)
 {
+    if (duration_class < 1 || duration_class > 5) {
+        return;
+    }
     m.duration_class = static_cast<std::int16_t>(duration_class);
 }
 
@@ -249,18 +264,27 @@ std::optional<Message> set_ksys(Model& m, float ksys)
 
 void choose_annex_row(Model& m, int row)
 {
+    if (row < 0 || row > std::min<int>(m.setup.setup_last_row, FileDatabase::kRows - 1)) {
+        return;
+    }
     m.setup.setup_row = static_cast<std::int16_t>(row);
     ApplySetupRow(m);
 }
 
-void choose_language(Model& m, const char* language)
+void choose_language(Model& m, std::string_view language)
 {
+    if (language != "Eng" && language != "Nor") {
+        return;
+    }
     m.language = language;
     m.setup.setup_language = language;
 }
 
 void choose_safety_class(Model& m, int safety_class)
 {
+    if (safety_class < 1 || safety_class > 3) {
+        return;
+    }
     m.safety_class = static_cast<std::int16_t>(safety_class);
     if (const std::optional<float> kfi = kfi_of(m.annex, safety_class)) {
         m.kfi = *kfi;

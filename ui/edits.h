@@ -6,6 +6,7 @@
 #include "ui/input_checks.h"
 
 #include <optional>
+#include <string_view>
 
 namespace kvelder {
 
@@ -46,8 +47,10 @@ void choose_section_option(Model& m, SectionOption option);
 // txt_b1, txt_h1, txt_d: the size is stored as typed; the message of one that fails.
 std::optional<Message> set_section_size(Model& m, Box box, float value);
 
-// Txt_kc90, Txt_opp_L of one node (1 .. nnodes). Spans, nodes and list
-// positions the window does not show change nothing.
+// Txt_kc90, Txt_opp_L of one node (1 .. nnodes).
+//
+// Spans, nodes, options and list positions the window does not offer change
+// nothing, in every rule here.
 std::optional<Message> set_bearing(Model& m, int node, Box box, float value);
 
 // --- Spans and supports (Optfelt, Txtfelt, optSuppLeft, optSuppRight) ---------
@@ -80,7 +83,7 @@ void set_self_weight(Model& m, bool on);
 void choose_load_combination(Model& m, int option);
 
 // Opt_610a, Opt_610b: "610a" or "610b".
-void choose_comb_rule(Model& m, const char* rule);
+void choose_comb_rule(Model& m, std::string_view rule);
 
 // --- Lateral buckling (Check_vipping) ------------------------------------------
 
@@ -102,7 +105,7 @@ std::optional<Message> set_ksys(Model& m, float ksys);
 // A row of the setup table: its annex, language and factors become active.
 void choose_annex_row(Model& m, int row);
 // "Eng" or "Nor".
-void choose_language(Model& m, const char* language);
+void choose_language(Model& m, std::string_view language);
 // The safety or reliability class of the annex, with its factor kfi.
 void choose_safety_class(Model& m, int safety_class);
 

@@ -186,7 +186,7 @@ void choose_setup(Model& m, const json& d)
         choose_annex_row(m, *row);
     }
     if (d.contains("language")) {
-        choose_language(m, text(d["language"], "language", {"Eng", "Nor"}) == "Eng" ? "Eng" : "Nor");
+        choose_language(m, text(d["language"], "language", {"Eng", "Nor"}));
     }
     if (d.contains("safety_class")) {
         choose_safety_class(m, integer(d["safety_class"], "safety_class", 1, 3));
@@ -329,7 +329,7 @@ void choose_loads_and_modes(Model& m, const json& d)
         choose_load_combination(m, integer(d["loadcomb_option"], "loadcomb_option", 1, 2));
     }
     if (d.contains("comb_rule")) {
-        choose_comb_rule(m, text(d["comb_rule"], "comb_rule", {"610a", "610b"}) == "610a" ? "610a" : "610b");
+        choose_comb_rule(m, text(d["comb_rule"], "comb_rule", {"610a", "610b"}));
     }
 }
 

@@ -26,13 +26,22 @@ TEST(ChooseFamily, AStaleProfileFallsToTheMiddleAndTheSectionFollowsTheList)
     EXPECT_EQ(m->section_h, profile(*m, 0, m->prof_index).h);
     EXPECT_EQ(m->standard_section, kFalse); // still a free rectangle, of the listed size
 
-    // Indexes that no list holds, as a cleared list reports, change nothing.
+    // Positions that no list or option holds, as a cleared list reports, change nothing.
     const auto before = std::make_unique<Model>(*m);
     choose_family(*m, -1);
     choose_family(*m, 4);
     choose_profile(*m, 28);
     choose_material(*m, -1);
     choose_material(*m, m->material_table.last_row + 1);
+    LoadDialogs d = load_dialogs(*m);
+    choose_span_count(*m, 6, d);
+    choose_support(*m, BeamEnd::Left, 'X', d);
+    choose_comb_rule(*m, "610c");
+    choose_language(*m, "Swe");
+    choose_service_class(*m, 0);
+    choose_duration_class(*m, 6);
+    choose_psi(*m, PsiList::Psi0_Q1, 9);
+    choose_annex_row(*m, m->setup.setup_last_row + 1);
     EXPECT_TRUE(*m == *before);
 
     choose_profile(*m, 3);
