@@ -1,11 +1,9 @@
 // Saving and opening projects: what comes back, what the reader deliberately
 // does not restore, and damaged files that must leave everything as it was.
 
-#include "analysis/points.h"
 #include "files/project_file.h"
 #include "files/project_layout.h"
 #include "files/start_values.h"
-#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 #include "ui/messages.h"
 
@@ -324,26 +322,6 @@ TEST(ProjectFile, SpareTextsAreSkippedWhateverTheyHold)
     ASSERT_FALSE(why) << *why;
     EXPECT_EQ(m->G, saved->G);
     EXPECT_EQ(m->setup.setup_table, saved->setup.setup_table);
-}
-
-TEST(ProjectFile, OpeningRecalculatesToTheResultsOfTheBeamSaved)
-{
-    auto saved = loaded_beam();
-    saved->Q1.mom_n = 0; // their span numbers come with the dialog, not the file
-    saved->Q2.mom_n = 0;
-    build_calculation_grids(*saved);
-    const fs::path path = project_folder() / "same_results.kvel";
-    ASSERT_FALSE(WriteProject(*saved, path));
-    RecordingScreen screen;
-    MainCalc(*saved, screen, scratch_folder());
-    auto m = opened(path);
-    MainCalc(*m, screen, scratch_folder());
-    EXPECT_TRUE(screen.messages.empty());
-    EXPECT_EQ(m->M_max, saved->M_max);
-    EXPECT_EQ(m->W_min, saved->W_min);
-    EXPECT_EQ(m->R_max, saved->R_max);
-    EXPECT_EQ(m->Uf_ltb, saved->Uf_ltb);
-    EXPECT_EQ(m->Uf_c90, saved->Uf_c90);
 }
 
 // --- Damaged and missing files --------------------------------------------------
