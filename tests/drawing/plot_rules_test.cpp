@@ -139,16 +139,6 @@ TEST(ResultLabels, ShearEndsBelowTheThresholdAreNotLabelled)
     EXPECT_TRUE(none.texts.empty()); // the lower curve labels only values below 0
 }
 
-TEST(ResultLabels, AllZeroDiagramsHaveNoLabels)
-{
-    auto m = make_beam({4.0F, 4.0F});
-    recalculate(*m);
-    const Table2<float, kMaxSpans, kMaxPoints> zero;
-    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
-    EXPECT_TRUE(
-        curve_marks(*m, Diagram::Moment, zero, true, c, screen_place(Diagram::Moment, 0)).texts.empty());
-}
-
 TEST(ResultLabels, CurvesRunLeftToRight)
 {
     auto m = make_beam({4.0F});

@@ -127,10 +127,6 @@ TEST(PlotScale, SpanColumnsShareTheWidthByLength)
     auto one = make_beam({7.5F});
     EXPECT_FLOAT_EQ(PlotSpanWidths(*one, 2.0F, 96.0F).width[0], 96.0F);
 
-    const SpanColumns sketch = SketchSpanWidths(10.0F);
-    EXPECT_FLOAT_EQ(sketch.start(4), 58.0F); // three columns of 16 after the margin
-    EXPECT_FLOAT_EQ(sketch.end(3), 58.0F);
-
     auto none = make_beam({0.0F});
     const SpanColumns empty = PlotSpanWidths(*none, 2.0F, 96.0F);
     EXPECT_EQ(empty.per_metre, 0.0F); // no division by a length of 0

@@ -134,7 +134,7 @@ TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
     EXPECT_EQ(read_text_file(folder / "EC5Material.csv"), std::string(shipped_material_catalogue()));
 }
 
-TEST(ShippedData, HoldsTheClassesOfTheStandardsAndTheExampleBeamsRows)
+TEST(ShippedData, HoldsTheClassesOfTheStandards)
 {
     Model m;
     ASSERT_TRUE(ReadDataFiles(m, source_data_dir()).empty());
@@ -152,12 +152,8 @@ TEST(ShippedData, HoldsTheClassesOfTheStandardsAndTheExampleBeamsRows)
                              "LVL 48 P", "LVL 36 C"}) {
         EXPECT_EQ(names.count(name), 1U) << name;
     }
-    EXPECT_EQ(m.material_table.rows[24].name, "GL30c");
     EXPECT_GT(m.material_table.rows[40].s_exponent, 0);
 
-    ASSERT_GE(m.profile_families.of(1).size(), 53U);
-    EXPECT_EQ(m.profile_families.of(1)[52].b, 140.0F);
-    EXPECT_EQ(m.profile_families.of(1)[52].h, 405.0F);
     for (int family = 0; family < 4; ++family) {
         EXPECT_FALSE(m.profile_families.of(family).empty()) << family;
     }
@@ -167,7 +163,6 @@ TEST(ShippedData, HoldsTheClassesOfTheStandardsAndTheExampleBeamsRows)
         annexes.push_back(m.setup.setup_table[static_cast<std::size_t>(r)].annex);
     }
     EXPECT_EQ(annexes, (std::vector<std::string>{"Nor", "Swe", "Euc"}));
-    EXPECT_EQ(m.setup.setup_table[0].gamma_lam, 1.15F);
     EXPECT_EQ(m.setup.setup_table[2].gamma_timb, 1.3F);
 }
 

@@ -92,19 +92,6 @@ TEST(ProjectLayout, CatalogueAndSelectionFieldsSitAtTheirOffsets)
     EXPECT_EQ(f32_at(b, 4800 + 28 + 6 + 4), 405.0F);
 }
 
-TEST(ProjectLayout, TextsAreCountedWindows1252Bytes)
-{
-    ProjectFile f = empty_texts();
-    f.setup.setup_language = "Nor";
-    f.materials.rows[0].name = "Gran \u00f8st"; // ø is one byte, 0xF8
-    const Bytes b = encode_project(f);
-    EXPECT_EQ(i16_at(b, 0), 3);
-    EXPECT_EQ(text_at(b, 2, 3), "Nor");
-    const std::size_t row0 = 548 + 3;
-    EXPECT_EQ(i16_at(b, row0), 8);
-    EXPECT_EQ(text_at(b, row0 + 2, 8), "Gran \xf8st");
-}
-
 // Offsets in the record are those of a beam with empty project texts and
 // one-letter end supports, worked out from the field list of the format.
 TEST(ProjectLayout, RecordFieldsOfABeamWithLoadsInEveryTable)
@@ -216,21 +203,6 @@ TEST(ProjectLayout, BucklingDataIsWrittenOnlyWhileTheCheckIsOn)
         ASSERT_EQ(b[tail + k], std::byte{0}) << "byte " << k << " of the record";
     }
     EXPECT_EQ(i16_at(b, tail + 2422), -1);
-}
-
-TEST(ProjectLayout, ACircularSectionKeepsItsFormAndDiameter)
-{
-    auto m = example_beam();
-    m->section_form = "Tube";
-    m->standard_section = kFalse;
-    m->section_d = 315.5F;
-    m->prof_type_index = 2;
-    m->material_family = "kerto     ";
-    const Bytes b = project_bytes(*m);
-    const std::size_t tail = b.size() - 2450; // the record's offsets behind its two texts
-    EXPECT_EQ(text_at(b, tail + 2204, 10), "kerto     ");
-    EXPECT_EQ(f32_at(b, tail + 2224), 315.5F);
-    EXPECT_EQ(text_at(b, tail + 2236, 4), "Tube");
 }
 
 TEST(CodePage, TextsOutsideWindows1252)
