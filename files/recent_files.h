@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,20 @@ public:
     virtual ~RecentFileStore() = default;
     virtual std::string value(int number) const = 0;
     virtual void set_value(int number, const std::string& path) = 0;
+};
+
+// A store that keeps the list for one run only: for a program that must not
+// touch the user's settings, and for tests.
+class RecentFilesInMemory final : public RecentFileStore {
+public:
+    std::string value(int number) const override
+    {
+        const auto it = keys.find(number);
+        return it == keys.end() ? std::string() : it->second;
+    }
+    void set_value(int number, const std::string& path) override { keys[number] = path; }
+
+    std::map<int, std::string> keys;
 };
 
 constexpr int kRecentFiles = 4;

@@ -6,6 +6,7 @@
 #include "design/section.h"
 #include "design/section_checks.h"
 #include "recalc/run_analysis.h"
+#include "ui/input_checks.h"
 #include "ui/load_checks.h"
 #include "ui/messages.h"
 
@@ -64,12 +65,16 @@ void check_loads(Model& m, CalcScreen& screen)
     m.err_section = flag_of(all_empty);
 }
 
+bool data_missing(const Model& m)
+{
+    return is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) ||
+           is_true(m.err_section) || window_box_failure(m).has_value();
+}
+
 void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder)
 {
     m.calc_invalid = kFalse;
-    const bool data_missing =
-        is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) || is_true(m.err_section);
-    if (data_missing) {
+    if (data_missing(m)) {
         screen.show_message(*ShowMessageEng(500)); // English in either language
         return;
     }

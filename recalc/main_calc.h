@@ -14,6 +14,11 @@ namespace kvelder {
 // gate with one message and leaves every result of the last run standing.
 // The trace of the run is written to `scratch_folder` (the current directory
 // when empty) where that is possible.
+// Whether the beam stops at the gate of the next recalculation: a span without
+// a length, supports that cannot carry it, no load at all, or a value of a
+// box of the window that failed its check.
+bool data_missing(const Model& m);
+
 void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder = {});
 
 // Checks the load tables of G, Q1 and Q2 in turn and builds the calculation

@@ -64,6 +64,41 @@ std::optional<Message> check_supports(Model& m)
     return std::nullopt;
 }
 
+namespace {
+
+// The section and bearing boxes of the main window, in the order of the window.
+std::vector<Message> section_box_failures(const Model& m)
+{
+    std::vector<Message> messages;
+    const auto add = [&messages](const std::optional<Message>& message) {
+        if (message) {
+            messages.push_back(*message);
+        }
+    };
+    if (m.section_form == "Tube") {
+        add(check_box(m, Box::Diameter, m.section_d));
+    } else {
+        add(check_box(m, Box::Width, m.section_b));
+        add(check_box(m, Box::Height, m.section_h));
+        for (int i = 1; i <= m.nnodes; ++i) {
+            add(check_box(m, Box::Kc90, m.bearing_kc90(i)));
+            add(check_box(m, Box::BearingLength, m.bearing_length(i)));
+        }
+    }
+    return messages;
+}
+
+} // namespace
+
+std::optional<Message> window_box_failure(const Model& m)
+{
+    std::vector<Message> failures = section_box_failures(m);
+    if (failures.empty()) {
+        return std::nullopt;
+    }
+    return failures.front();
+}
+
 std::vector<Message> check_all_boxes(Model& m)
 {
     std::vector<Message> messages;
@@ -76,16 +111,8 @@ std::vector<Message> check_all_boxes(Model& m)
         messages.push_back(failure->message);
     }
     add(check_supports(m));
-    if (m.section_form == "Tube") {
-        add(check_box(m, Box::Diameter, m.section_d));
-    } else {
-        add(check_box(m, Box::Width, m.section_b));
-        add(check_box(m, Box::Height, m.section_h));
-        for (int i = 1; i <= m.nnodes; ++i) {
-            add(check_box(m, Box::Kc90, m.bearing_kc90(i)));
-            add(check_box(m, Box::BearingLength, m.bearing_length(i)));
-        }
-    }
+    const std::vector<Message> section = section_box_failures(m);
+    messages.insert(messages.end(), section.begin(), section.end());
     add(check_box(m, Box::Ksys, m.ksys));
     if (m.vipping_off == 0 && !is_true(m.err_spans)) {
         for (int i = 1; i <= m.nf; ++i) {

@@ -185,4 +185,16 @@ Message project_message(const std::string& language, const ProjectFailure& failu
                : Message{0, "", "Kan ikke lagre " + path + ": en tekst er for lang for prosjektfilen."};
 }
 
+Message overwrite_question(const std::string& language, const std::string& path)
+{
+    return language == "Eng" ? Message{0, "", path + " already exists. Do you want to replace it?"}
+                             : Message{0, "", path + " finnes allerede. Vil du erstatte den?"};
+}
+
+Message document_missing(const std::string& language, const std::string& path)
+{
+    return language == "Eng" ? Message{0, "", "Can't open " + path}
+                             : Message{0, "", "Kan ikke \u00e5pne " + path};
+}
+
 } // namespace kvelder

@@ -28,4 +28,10 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
 // in English whatever the language.
 Message project_message(const std::string& language, const ProjectFailure& failure);
 
+// Save As onto a file that is there already.
+Message overwrite_question(const std::string& language, const std::string& path);
+
+// A document of the help menu that is not there or that the desktop cannot open.
+Message document_missing(const std::string& language, const std::string& path);
+
 } // namespace kvelder

@@ -1,7 +1,7 @@
 // kvelder-cli: the calculation without the window, for scripts and for tests.
 
 #include "app/cli/commands.h"
-#include "app/cli/plot_command.h"
+#include "drawing/headless_platform.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -32,7 +32,7 @@ int main(int argc, char** argv)
     // Only the pictures need Qt's drawing; the rest stays off any display.
     const bool pictures = !args.empty() && args[0] == "plot";
     if (pictures) {
-        kvelder::cli::choose_headless_platform();
+        kvelder::choose_headless_platform();
     }
     const std::unique_ptr<QCoreApplication> app = pictures ? std::make_unique<QGuiApplication>(argc, argv)
                                                            : std::make_unique<QCoreApplication>(argc, argv);

@@ -4,7 +4,6 @@
 
 #include <QImage>
 #include <QString>
-#include <QtGlobal>
 
 #include <array>
 #include <memory>
@@ -12,28 +11,6 @@
 #include <string>
 
 namespace kvelder::cli {
-
-void choose_headless_platform()
-{
-#ifndef Q_OS_WIN
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
-        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    // Qt wants a private runtime folder and complains on stderr without one.
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
-        std::error_code ec;
-        const std::filesystem::path runtime =
-            std::filesystem::temp_directory_path(ec) /
-            ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
-        std::filesystem::create_directory(runtime, ec);
-        std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
-        if (!ec) {
-            qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.string()));
-        }
-    }
-#endif
-}
 
 std::optional<std::string> write_pictures(const Model& m, const std::filesystem::path& folder, int width,
                                           int height)

@@ -14,8 +14,4 @@ namespace kvelder::cli {
 std::optional<std::string> write_pictures(const Model& m, const std::filesystem::path& folder, int width,
                                           int height);
 
-// Qt's platform for drawing without a screen, unless a display or a chosen
-// platform is there.
-void choose_headless_platform();
-
 } // namespace kvelder::cli

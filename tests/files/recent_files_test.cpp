@@ -9,17 +9,7 @@
 namespace kvelder::test {
 namespace {
 
-class MemoryStore final : public RecentFileStore {
-public:
-    std::string value(int number) const override
-    {
-        const auto it = keys.find(number);
-        return it == keys.end() ? std::string() : it->second;
-    }
-    void set_value(int number, const std::string& path) override { keys[number] = path; }
-
-    std::map<int, std::string> keys;
-};
+using MemoryStore = RecentFilesInMemory;
 
 MemoryStore store_of(std::initializer_list<std::string> paths)
 {

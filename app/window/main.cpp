@@ -1,0 +1,107 @@
+// kvelder: the window.
+//
+//     kvelder [PROJECT]
+//     kvelder --screenshots DIR [PROJECT]
+//
+// The second form starts the window without a display, writes what it shows
+// as DIR/frmMain.png after the start and its recalculation, and quits.
+
+#include "app/window/screenshot_prompter.h"
+#include "drawing/headless_platform.h"
+#include "files/data_files.h"
+#include "files/start_values.h"
+#include "gui/main_window.h"
+#include "gui/prompter.h"
+#include "gui/recent_files_settings.h"
+#include "ui/load_checks.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Arguments {
+    std::optional<fs::path> screenshots;
+    std::optional<std::string> project;
+};
+
+std::optional<Arguments> parse(int argc, char** argv)
+{
+    Arguments a;
+    for (int k = 1; k < argc; ++k) {
+        const std::string arg = argv[k];
+        if (arg == "--screenshots" && k + 1 < argc && !a.screenshots) {
+            a.screenshots = fs::path(argv[++k]);
+        } else if (!arg.starts_with("--") && !a.project) {
+            a.project = arg;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return a;
+}
+
+int write_screenshot(QWidget& window, const fs::path& folder)
+{
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    const fs::path file = folder / "frmMain.png";
+    if (!window.grab().save(QString::fromStdWString(file.wstring()), "PNG")) {
+        std::cerr << "kvelder: " << file.string() << ": cannot be written\n";
+        return 2;
+    }
+    std::cout << file.string() << '\n';
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::optional<Arguments> args = parse(argc, argv);
+    if (!args) {
+        std::cerr << "usage: kvelder [--screenshots DIR] [PROJECT]\n";
+        return 2;
+    }
+    if (args->screenshots) {
+        kvelder::choose_headless_platform();
+    }
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Kvelder");
+
+    auto model = std::make_unique<kvelder::Model>();
+    const fs::path data = kvelder::user_data_dir();
+    kvelder::fill_data_dir(data);
+    const std::vector<kvelder::DataFileNote> notes = kvelder::start_up(*model, data);
+    kvelder::LoadDialogs dialogs = kvelder::load_dialogs(*model);
+
+    // A screenshot run leaves the user's recent files alone.
+    std::unique_ptr<kvelder::RecentFileStore> recent;
+    std::unique_ptr<kvelder::Prompter> prompter;
+    if (args->screenshots) {
+        recent = std::make_unique<kvelder::RecentFilesInMemory>();
+        prompter = std::make_unique<kvelder::ScreenshotPrompter>();
+    } else {
+        recent = std::make_unique<kvelder::RecentFilesSettings>();
+        prompter = std::make_unique<kvelder::DialogPrompter>();
+    }
+    const fs::path help = fs::path(QCoreApplication::applicationDirPath().toStdWString()) / "Help";
+    kvelder::MainWindow window(*model, dialogs, *prompter, *recent, {help, {}});
+    window.show();
+    window.begin(notes, args->project);
+    if (args->screenshots) {
+        QApplication::processEvents();
+        window.redraw_pictures();
+        return write_screenshot(window, *args->screenshots);
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,33 @@
+#include "drawing/headless_platform.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
+
+#include <filesystem>
+
+namespace kvelder {
+
+void choose_headless_platform()
+{
+#ifndef Q_OS_WIN
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
+        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // Qt wants a private runtime folder and complains on stderr without one.
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
+        std::error_code ec;
+        const std::filesystem::path runtime =
+            std::filesystem::temp_directory_path(ec) /
+            ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
+        std::filesystem::create_directory(runtime, ec);
+        std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
+        if (!ec) {
+            qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.string()));
+        }
+    }
+#endif
+}
+
+} // namespace kvelder

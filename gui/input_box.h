@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+
+namespace kvelder {
+
+// A text box of the window. Its rule runs once each time the engineer leaves
+// it, by Tab, Enter or a click elsewhere, and again when a menu command
+// commits it; never for a focus that a message box or a menu takes away. The
+// whole text is selected when the box takes the focus.
+class InputBox : public QLineEdit {
+    Q_OBJECT
+public:
+    // The rule returns false when the box refused its value and keeps the focus.
+    using Rule = std::function<bool()>;
+
+    explicit InputBox(const QString& name, QWidget* parent = nullptr);
+    void set_rule(Rule rule) { m_rule = std::move(rule); }
+    // Runs the rule now; true when the value was taken.
+    bool commit();
+    // Green for a refused value, white for one that passed.
+    void set_failed(bool failed);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Rule m_rule;
+};
+
+} // namespace kvelder

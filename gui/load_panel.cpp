@@ -1,0 +1,111 @@
+#include "gui/load_panel.h"
+
+#include "gui/workspace.h"
+#include "ui/control_rules.h"
+#include "ui/edits.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace kvelder {
+namespace {
+
+template <typename W> W* named(const char* name, QWidget* parent)
+{
+    auto* w = new W(parent);
+    w->setObjectName(name);
+    return w;
+}
+
+} // namespace
+
+LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+
+    auto* loads = named<QGroupBox>("frmLoad", this);
+    auto* loads_grid = new QGridLayout(loads);
+    loads_grid->setContentsMargins(4, 2, 4, 2);
+    int col = 0;
+    for (const char* name : {"Cmdegenlast", "Cmdnyttelast", "Cmdnyttelast_2"}) {
+        auto* button = named<QPushButton>(name, loads);
+        button->setEnabled(false); // the load dialogs come next
+        loads_grid->addWidget(button, 0, col++);
+    }
+    m_self_weight = named<QCheckBox>("Check_profilvekt", loads);
+    loads_grid->addWidget(m_self_weight, 1, 0, 1, 3);
+    column->addWidget(loads);
+
+    auto* comb = named<QGroupBox>("fraloadcomb", this);
+    auto* comb_grid = new QGridLayout(comb);
+    comb_grid->setContentsMargins(4, 2, 4, 2);
+    m_total = named<QRadioButton>("Opt_loadcomb1", comb);
+    m_patterns = named<QRadioButton>("Opt_loadcomb2", comb);
+    m_patterns_help = named<QPushButton>("Cmd_loadcomb2", comb);
+    comb_grid->addWidget(m_total, 0, 0);
+    comb_grid->addWidget(m_patterns, 1, 0);
+    comb_grid->addWidget(m_patterns_help, 1, 1);
+    column->addWidget(comb);
+
+    auto* rule = named<QGroupBox>("Fra_loadcomb_a_b", this);
+    auto* rule_row = new QHBoxLayout(rule);
+    rule_row->setContentsMargins(4, 2, 4, 2);
+    m_610a = named<QRadioButton>("Opt_610a", rule);
+    m_610b = named<QRadioButton>("Opt_610b", rule);
+    auto* rule_help = named<QPushButton>("Cmd_610a_b", rule);
+    rule_help->setEnabled(false); // the annexes' help forms come later
+    rule_row->addWidget(m_610a);
+    rule_row->addWidget(m_610b);
+    rule_row->addWidget(rule_help);
+    column->addWidget(rule);
+
+    connect(m_self_weight, &QCheckBox::clicked, this, [this](bool on) {
+        if (!m_ws.filling()) {
+            set_self_weight(m_ws.model(), on);
+            m_ws.recalculate();
+        }
+    });
+    for (auto [button, option] : {std::pair{m_total, 1}, {m_patterns, 2}}) {
+        connect(button, &QRadioButton::clicked, this, [this, option = option] {
+            if (!m_ws.filling()) {
+                choose_load_combination(m_ws.model(), option);
+                m_ws.recalculate();
+            }
+        });
+    }
+    for (auto [button, name] : {std::pair{m_610a, "610a"}, {m_610b, "610b"}}) {
+        connect(button, &QRadioButton::clicked, this, [this, name = name] {
+            if (!m_ws.filling()) {
+                choose_comb_rule(m_ws.model(), name);
+                m_ws.recalculate();
+            }
+        });
+    }
+}
+
+void LoadPanel::refresh()
+{
+    const Model& m = m_ws.model();
+    const ControlRules rules = control_rules(m);
+    const auto check = [](QAbstractButton* button, bool on) {
+        const QSignalBlocker block(button);
+        button->setChecked(on);
+    };
+    check(m_self_weight, is_true(m.profile_weight_on));
+    check(m.loadcomb_option == 2 ? m_patterns : m_total, true);
+    check(m.comb_rule == "610a" ? m_610a : m_610b, true);
+    m_total->setEnabled(rules.Opt_loadcomb1);
+    m_patterns->setEnabled(rules.Opt_loadcomb2);
+    // Its help forms come with the remaining dialogs.
+    m_patterns_help->setEnabled(false);
+}
+
+} // namespace kvelder

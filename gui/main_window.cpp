@@ -1,0 +1,554 @@
+#include "gui/main_window.h"
+
+#include "drawing/pictures.h"
+#include "gui/factor_panel.h"
+#include "gui/input_box.h"
+#include "gui/load_panel.h"
+#include "gui/picture_box.h"
+#include "gui/prompter.h"
+#include "gui/result_panel.h"
+#include "gui/section_panel.h"
+#include "gui/span_panel.h"
+#include "recalc/main_calc.h"
+#include "ui/captions.h"
+#include "ui/messages.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace kvelder {
+namespace {
+
+QString qs(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+// Sets the text of a control of any kind the captions name.
+void set_caption(QObject* control, const QString& text)
+{
+    if (auto* action = qobject_cast<QAction*>(control)) {
+        action->setText(text);
+    } else if (auto* menu = qobject_cast<QMenu*>(control)) {
+        menu->setTitle(text);
+    } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
+        frame->setTitle(text);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        button->setText(text);
+    } else if (auto* label = qobject_cast<QLabel*>(control)) {
+        label->setText(text);
+    }
+}
+
+QGroupBox* picture_frame(const char* frame_name, const char* picture_name, QWidget* parent)
+{
+    auto* frame = new QGroupBox(parent);
+    frame->setObjectName(frame_name);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->addWidget(new PictureBox(picture_name, frame));
+    return frame;
+}
+
+// Holds the window's one guard for as long as a rule or a message box runs.
+class GuardScope {
+public:
+    explicit GuardScope(bool& guard) : m_guard(guard), m_before(guard) { m_guard = true; }
+    ~GuardScope() { m_guard = m_before; }
+    GuardScope(const GuardScope&) = delete;
+    GuardScope& operator=(const GuardScope&) = delete;
+
+private:
+    bool& m_guard;
+    bool m_before;
+};
+
+} // namespace
+
+MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, RecentFileStore& recent,
+                       WindowFolders folders)
+    : m_model(m), m_dialogs(dialogs), m_prompter(prompter), m_recent(recent), m_folders(std::move(folders))
+{
+    setObjectName("frmMain");
+    // Frame titles in the program's blue.
+    setStyleSheet(QStringLiteral("QGroupBox { font-weight: bold; } "
+                                 "QGroupBox::title { color: rgb(0, 85, 152); } "
+                                 "QGroupBox * { font-weight: normal; }"));
+    auto* central = new QWidget(this);
+    auto* grid = new QGridLayout(central);
+    grid->setContentsMargins(4, 2, 4, 4);
+    grid->setSpacing(4);
+
+    // Top: the program's heading and the project's.
+    auto* top = new QHBoxLayout;
+    m_headline = new QLabel(central);
+    m_headline->setObjectName("lblHeadline");
+    top->addWidget(m_headline);
+    top->addSpacing(12);
+    m_project = new InputBox("txtprosjekt", central);
+    m_id = new InputBox("txtid", central);
+    auto* project_label = new QLabel(central);
+    project_label->setObjectName("lbl_prosjekt");
+    auto* id_label = new QLabel(central);
+    id_label->setObjectName("lblid");
+    top->addWidget(project_label);
+    top->addWidget(m_project, 1);
+    top->addWidget(id_label);
+    top->addWidget(m_id, 1);
+    grid->addLayout(top, 0, 0, 1, 3);
+
+    // Left: the beam input.
+    auto* left_column = new QWidget(central);
+    left_column->setMaximumWidth(310);
+    auto* left = new QVBoxLayout(left_column);
+    left->setContentsMargins(0, 0, 0, 0);
+    auto* beam = new QGroupBox(left_column);
+    beam->setObjectName("frabjelk");
+    auto* beam_column = new QVBoxLayout(beam);
+    beam_column->setContentsMargins(4, 2, 4, 2);
+    m_spans = new SpanPanel(*this, beam);
+    m_loads = new LoadPanel(*this, beam);
+    beam_column->addWidget(m_spans);
+    beam_column->addWidget(m_loads);
+    left->addWidget(beam);
+    left->addStretch();
+    grid->addWidget(left_column, 1, 0);
+
+    // Middle: the beam and its loads drawn to scale, and the diagrams.
+    auto* middle = new QVBoxLayout;
+    auto* loads = new QGroupBox(central);
+    loads->setObjectName("frageolast");
+    auto* loads_column = new QVBoxLayout(loads);
+    loads_column->setContentsMargins(2, 2, 2, 2);
+    loads_column->setSpacing(2);
+    loads_column->addWidget(picture_frame("Fraegenlast", "Picegenlast", loads), 5);
+    loads_column->addWidget(new PictureBox("Picnyttelast", loads), 4);
+    loads_column->addWidget(new PictureBox("Picnyttelast_2", loads), 4);
+    middle->addWidget(loads, 5);
+    middle->addWidget(picture_frame("Fraresult", "Picresult", central), 3);
+    middle->addWidget(picture_frame("Fradisp", "Picdisp", central), 2);
+    grid->addLayout(middle, 1, 1);
+
+    // Right: section, material, classes and factors.
+    auto* right_column = new QWidget(central);
+    right_column->setMaximumWidth(310);
+    auto* right = new QVBoxLayout(right_column);
+    right->setContentsMargins(0, 0, 0, 0);
+    m_section = new SectionPanel(*this, right_column);
+    m_factors = new FactorPanel(*this, right_column);
+    right->addWidget(m_section);
+    right->addWidget(m_factors);
+    right->addStretch();
+    grid->addWidget(right_column, 1, 2);
+
+    m_results = new ResultPanel(*this, central);
+    grid->addWidget(m_results, 2, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    setCentralWidget(central);
+
+    for (std::size_t k = 0; k < std::size(kPictures); ++k) {
+        m_pictures[k] = findChild<PictureBox*>(picture_name(kPictures[k]));
+        connect(m_pictures[k], &PictureBox::resized, this, &MainWindow::schedule_redraw);
+    }
+    m_project->set_rule([this] {
+        return run_box_rule(
+            *m_project,
+            [this] {
+                m_model.prosjekt_s = m_project->text().toStdString();
+                return BoxResult{m_project->text(), std::nullopt, nullptr};
+            },
+            false);
+    });
+    m_id->set_rule([this] {
+        return run_box_rule(
+            *m_id,
+            [this] {
+                m_model.id_s = m_id->text().toStdString();
+                return BoxResult{m_id->text(), std::nullopt, nullptr};
+            },
+            false);
+    });
+
+    // The help buttons carry a question mark only.
+    for (const char* name : {"Cmd_opplegg", "Cmd_loadcomb2", "Cmd_610a_b", "Cmd_vipp_text"}) {
+        findChild<QWidget*>(name)->setMaximumWidth(28);
+    }
+    build_menu();
+    for (const Caption& c : form_captions()) {
+        if (QObject* control = findChild<QObject*>(qs(c.control))) {
+            set_caption(control, qs(c.text));
+        }
+    }
+    resize(1024, 737);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::build_menu()
+{
+    const auto item = [this](QMenu* menu, const char* name, const std::function<void()>& action,
+                             QKeySequence keys = {}) {
+        QAction* a = menu->addAction(QString());
+        a->setObjectName(name);
+        a->setShortcut(keys);
+        if (action) {
+            connect(a, &QAction::triggered, this, action);
+        } else {
+            a->setEnabled(false); // comes with the report and the remaining dialogs
+        }
+        return a;
+    };
+    m_file_menu = menuBar()->addMenu(QString());
+    m_file_menu->setObjectName("mnufile");
+    item(
+        m_file_menu, "mnunew", [this] { file_new(); }, QKeySequence::New);
+    item(
+        m_file_menu, "mnufileitem_1", [this] { file_open(); }, QKeySequence::Open);
+    item(
+        m_file_menu, "mnufileitem_2", [this] { file_save(false); }, QKeySequence::Save);
+    item(
+        m_file_menu, "mnufileitem_3", [this] { file_save(true); }, QKeySequence::SaveAs);
+    m_recent_separator = m_file_menu->addSeparator();
+    m_recent_separator->setObjectName("mnuspace");
+    for (int k = 0; k < kRecentFiles; ++k) {
+        const QString name = QStringLiteral("mnurecentfile_%1").arg(k + 1);
+        m_recent_items[static_cast<std::size_t>(k)] =
+            item(m_file_menu, name.toLatin1().constData(), [this, k] { open_recent(k); });
+    }
+    m_file_menu->addSeparator();
+    item(
+        m_file_menu, "mnuexit", [this] { close(); }, QKeySequence::Quit);
+
+    QMenu* print = menuBar()->addMenu(QString());
+    print->setObjectName("mnuutskrift");
+    item(print, "mnumax1", nullptr);
+    item(print, "mnumax2", nullptr);
+    for (const char* name : {"mnusetup", "mnuklasse"}) {
+        QAction* a = menuBar()->addAction(QString());
+        a->setObjectName(name);
+        a->setEnabled(false); // their dialogs come later
+    }
+    QMenu* help = menuBar()->addMenu(QString());
+    help->setObjectName("mnuHjelp");
+    item(help, "mnuman", [this] { open_document("Kvelder manual.pdf"); });
+    item(help, "mnuUpdate", [this] { open_document("Kvelder Update information.pdf"); });
+    item(help, "mnuabout", nullptr);
+    show_recent_files();
+}
+
+void MainWindow::begin(const std::vector<DataFileNote>& notes, const std::optional<std::string>& project)
+{
+    m_model.loading_flag = kTrue;
+    m_session.current_dir = std::filesystem::current_path();
+    fill();
+    for (const DataFileNote& note : notes) {
+        show_message(data_file_message(m_model.language, note));
+    }
+    if (project) {
+        // A project that cannot be opened leaves the example beam, as it stands.
+        const std::filesystem::path path(command_line_path(*project));
+        if (auto failure = open_file(m_model, m_session, path, m_dialogs, m_recent)) {
+            show_message(*failure);
+        }
+        fill();
+        show_recent_files();
+    }
+    recalculate();
+    m_model.loading_flag = kFalse;
+    mark_unchanged(m_model, m_session);
+    m_project->setFocus();
+}
+
+void MainWindow::recalculate()
+{
+    if (m_running) {
+        return;
+    }
+    m_running = true;
+    const bool past_gate = !data_missing(m_model);
+    RecordingScreen screen;
+    MainCalc(m_model, screen, m_folders.scratch);
+    // A loader's run clears the flag also when the beam stops at the gate.
+    m_model.loading_flag = kFalse;
+    if (past_gate) {
+        m_blank.clear();
+    }
+    ++m_runs;
+    m_running = false;
+    refresh();
+    // Messages of the run come now that it is over, so that nothing modal
+    // opens inside it. The failing load row's dialog comes with the load dialogs.
+    for (const Message& message : screen.messages) {
+        show_message(message);
+    }
+    emit recalculated();
+}
+
+void MainWindow::refresh()
+{
+    apply_captions();
+    m_spans->refresh();
+    m_section->refresh();
+    m_loads->refresh();
+    m_factors->refresh();
+    m_results->refresh();
+    setWindowTitle(qs(window_title(m_model, m_session)));
+    redraw_pictures();
+}
+
+void MainWindow::apply_captions()
+{
+    std::vector<Caption> captions =
+        window_captions(m_model.language, m_model.comb_rule, m_model.duration_class);
+    if (captions == m_captions) {
+        return;
+    }
+    for (const Caption& c : captions) {
+        if (QObject* control = findChild<QObject*>(qs(c.control))) {
+            set_caption(control, qs(c.text));
+        }
+    }
+    m_captions = std::move(captions);
+    // A panel's size follows the new words only when every level is told.
+    for (QWidget* w : findChildren<QWidget*>()) {
+        w->updateGeometry();
+    }
+    m_headline->setText(
+        QStringLiteral("<span style='color: rgb(0, 85, 152); font-size: 13pt; font-weight: "
+                       "bold'>%1</span> &nbsp; <span style='color: rgb(0, 85, 152)'>%2</span>")
+            .arg(qs(program_title()), qs(program_line(m_model.language)).toHtmlEscaped()));
+}
+
+void MainWindow::fill()
+{
+    m_project->setText(qs(m_model.prosjekt_s));
+    m_id->setText(qs(m_model.id_s));
+    m_spans->fill();
+    m_section->fill();
+    refresh();
+}
+
+void MainWindow::redraw_pictures()
+{
+    m_redraw_due = false;
+    std::array<QImage, 6> images;
+    for (std::size_t k = 0; k < images.size(); ++k) {
+        const QSize size = m_pictures[k]->size().expandedTo(QSize(1, 1));
+        images[k] = QImage(size * m_pictures[k]->devicePixelRatio(), QImage::Format_RGB32);
+        images[k].setDevicePixelRatio(m_pictures[k]->devicePixelRatio());
+        images[k].fill(Qt::white);
+    }
+    {
+        std::array<std::unique_ptr<PlotSurface>, 6> s;
+        for (std::size_t k = 0; k < images.size(); ++k) {
+            s[k] = std::make_unique<PlotSurface>(images[k]);
+        }
+        PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m_model);
+    }
+    for (std::size_t k = 0; k < images.size(); ++k) {
+        if (m_blank.count(kPictures[k]) != 0) {
+            images[k].fill(Qt::white);
+        }
+        m_pictures[k]->set_image(std::move(images[k]));
+    }
+}
+
+void MainWindow::schedule_redraw()
+{
+    if (!m_redraw_due) {
+        m_redraw_due = true;
+        QTimer::singleShot(0, this, [this] {
+            if (m_redraw_due) {
+                redraw_pictures();
+            }
+        });
+    }
+}
+
+void MainWindow::show_message(const Message& message)
+{
+    const GuardScope guard(m_guard);
+    const QString title = message.title.empty() ? qs(program_title()) : qs(message.title);
+    m_prompter.message(this, title, qs(message.text), false);
+}
+
+bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& apply, bool recalc)
+{
+    if (m_guard || m_running || filling()) {
+        return true;
+    }
+    BoxResult result;
+    {
+        const GuardScope guard(m_guard);
+        result = apply();
+        box.setText(result.text);
+        InputBox* target = result.focus != nullptr ? result.focus : &box;
+        if (result.failure) {
+            target->set_failed(true);
+            target->setFocus();
+            show_message(*result.failure);
+            target->setFocus();
+            target->selectAll();
+            return false;
+        }
+        box.set_failed(false);
+    }
+    if (recalc) {
+        recalculate();
+    }
+    return true;
+}
+
+bool MainWindow::commit_focused_box()
+{
+    auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
+    return box == nullptr || box->commit();
+}
+
+bool MainWindow::may_discard()
+{
+    if (!has_unsaved_changes(m_model, m_session)) {
+        return true;
+    }
+    const Message q = save_changes_question(m_model.language, m_session);
+    switch (m_prompter.save_changes(this, qs(q.title), qs(q.text))) {
+    case Prompter::Answer::Save:
+        file_save(false);
+        return !has_unsaved_changes(m_model, m_session);
+    case Prompter::Answer::Discard:
+        return true;
+    case Prompter::Answer::Cancel:
+        break;
+    }
+    return false;
+}
+
+void MainWindow::load(const std::function<std::optional<Message>()>& loader)
+{
+    if (const std::optional<Message> failure = loader()) {
+        show_message(*failure);
+        return; // nothing has changed
+    }
+    fill();
+    show_recent_files();
+    recalculate();
+    m_model.loading_flag = kFalse;
+    mark_unchanged(m_model, m_session);
+    refresh();
+}
+
+void MainWindow::file_new()
+{
+    if (!commit_focused_box() || !may_discard()) {
+        return;
+    }
+    load([this]() -> std::optional<Message> {
+        new_file(m_model, m_session, m_dialogs);
+        return std::nullopt;
+    });
+}
+
+void MainWindow::file_open()
+{
+    if (!commit_focused_box() || !may_discard()) {
+        return;
+    }
+    const std::optional<QString> name =
+        m_prompter.open_file_name(this, QString::fromStdWString(m_session.current_dir.wstring()));
+    if (!name) {
+        show_message(cancel_message());
+        return;
+    }
+    open_path(std::filesystem::path(name->toStdWString()));
+}
+
+void MainWindow::open_path(const std::filesystem::path& path)
+{
+    load([this, &path] { return open_file(m_model, m_session, path, m_dialogs, m_recent); });
+}
+
+void MainWindow::open_recent(int index)
+{
+    if (!commit_focused_box() || !may_discard()) {
+        return;
+    }
+    const std::vector<std::string> captions = ShowRecentFiles(m_recent);
+    if (index < static_cast<int>(captions.size())) {
+        open_path(std::filesystem::path(recent_file_path(captions[static_cast<std::size_t>(index)])));
+    }
+}
+
+void MainWindow::file_save(bool save_as)
+{
+    if (!commit_focused_box()) {
+        return;
+    }
+    std::filesystem::path path(m_session.project_path);
+    if (save_as) {
+        const std::optional<QString> name =
+            m_prompter.save_file_name(this, QString::fromStdWString(path.wstring()));
+        if (!name) {
+            show_message(cancel_message());
+            return;
+        }
+        path = with_default_extension(std::filesystem::path(name->toStdWString()));
+        std::error_code ec;
+        if (std::filesystem::exists(path, ec)) {
+            const Message q = overwrite_question(m_model.language, path.string());
+            if (!m_prompter.yes_no(this, qs(q.title.empty() ? program_title() : q.title), qs(q.text))) {
+                return;
+            }
+        }
+    }
+    if (const std::optional<Message> failure = save_file(m_model, m_session, path, save_as, m_recent)) {
+        show_message(*failure);
+        return;
+    }
+    show_recent_files();
+    recalculate();
+    mark_unchanged(m_model, m_session);
+}
+
+void MainWindow::show_recent_files()
+{
+    const std::vector<std::string> captions = ShowRecentFiles(m_recent);
+    m_recent_separator->setVisible(!captions.empty());
+    for (std::size_t k = 0; k < m_recent_items.size(); ++k) {
+        const bool shown = k < captions.size();
+        m_recent_items[k]->setVisible(shown);
+        m_recent_items[k]->setText(shown ? qs(menu_text(captions[k])) : QString());
+    }
+}
+
+void MainWindow::open_document(const std::string& name)
+{
+    const std::filesystem::path path = m_folders.help / name;
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec) ||
+        !m_prompter.open_document(QString::fromStdWString(path.wstring()))) {
+        show_message(document_missing(m_model.language, path.string()));
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (commit_focused_box() && may_discard()) {
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+} // namespace kvelder

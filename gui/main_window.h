@@ -1,0 +1,123 @@
+#pragma once
+
+#include "files/data_files.h"
+#include "files/recent_files.h"
+#include "gui/workspace.h"
+#include "ui/captions.h"
+#include "ui/file_command.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+class QAction;
+class QLabel;
+class QMenu;
+
+namespace kvelder {
+
+class FactorPanel;
+class InputBox;
+class LoadPanel;
+class PictureBox;
+class Prompter;
+class ResultPanel;
+class SectionPanel;
+class SpanPanel;
+
+// Where the window finds its documents and leaves the trace of every run.
+struct WindowFolders {
+    std::filesystem::path help;    // the manual and the update information
+    std::filesystem::path scratch; // "Resultater" and "Geometri"
+};
+
+// The one window of the program. It assembles the panels and the menu, and
+// owns the one recalculation entry point: every change of the beam ends there,
+// and every picture and label is redrawn from the beam after it.
+class MainWindow : public QMainWindow, public Workspace {
+    Q_OBJECT
+public:
+    MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, RecentFileStore& recent,
+               WindowFolders folders);
+    ~MainWindow() override;
+
+    // The start after the window is shown: the notes on the data files, the
+    // project of the command line if any, and the one recalculation.
+    void begin(const std::vector<DataFileNote>& notes, const std::optional<std::string>& project);
+
+    // How many recalculations have run, for the tests and the benchmarks.
+    int runs() const { return m_runs; }
+    const ProjectSession& session() const { return m_session; }
+
+    // Workspace
+    Model& model() override { return m_model; }
+    LoadDialogs& dialogs() override { return m_dialogs; }
+    void recalculate() override;
+    void refresh() override;
+    void blank(Picture picture) override { m_blank.insert(picture); }
+    void show_message(const Message& message) override;
+    bool run_box_rule(InputBox& box, const std::function<BoxResult()>& apply,
+                      bool recalculate = true) override;
+    bool filling() const override { return is_true(m_model.loading_flag); }
+
+    // Redraws the six pictures from the beam at the size of their boxes.
+    void redraw_pictures();
+
+signals:
+    void recalculated();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void build_menu();
+    void apply_captions();
+    void fill();
+    void show_recent_files();
+    // The box being edited takes its value first, as leaving it would.
+    bool commit_focused_box();
+    // Asks about a changed beam; false when the engineer cancels.
+    bool may_discard();
+    void load(const std::function<std::optional<Message>()>& loader);
+    void file_new();
+    void file_open();
+    void open_path(const std::filesystem::path& path);
+    void file_save(bool save_as);
+    void open_recent(int index);
+    void open_document(const std::string& name);
+    void schedule_redraw();
+
+    Model& m_model;
+    LoadDialogs& m_dialogs;
+    Prompter& m_prompter;
+    RecentFileStore& m_recent;
+    WindowFolders m_folders;
+    ProjectSession m_session;
+
+    SpanPanel* m_spans = nullptr;
+    SectionPanel* m_section = nullptr;
+    LoadPanel* m_loads = nullptr;
+    FactorPanel* m_factors = nullptr;
+    ResultPanel* m_results = nullptr;
+    InputBox* m_project = nullptr;
+    InputBox* m_id = nullptr;
+    QLabel* m_headline = nullptr;
+    std::array<PictureBox*, 6> m_pictures{};
+    std::array<QAction*, kRecentFiles> m_recent_items{};
+    QAction* m_recent_separator = nullptr;
+    QMenu* m_file_menu = nullptr;
+
+    std::vector<Caption> m_captions; // as last applied
+    std::set<Picture> m_blank;
+    bool m_running = false; // a recalculation is under way
+    bool m_guard = false;   // a box's rule or a message box is open
+    bool m_redraw_due = false;
+    int m_runs = 0;
+};
+
+} // namespace kvelder

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace kvelder {
+
+// Everything the window asks of the user through a modal box or a file
+// dialog, behind one seam, so that tests and the screenshot run can answer
+// in place of a person.
+class Prompter {
+public:
+    enum class Answer { Save, Discard, Cancel };
+
+    virtual ~Prompter() = default;
+    // A plain box with an OK button; `warning` adds the exclamation icon.
+    virtual void message(QWidget* parent, const QString& title, const QString& text, bool warning) = 0;
+    virtual Answer save_changes(QWidget* parent, const QString& title, const QString& text) = 0;
+    virtual bool yes_no(QWidget* parent, const QString& title, const QString& text) = 0;
+    // None when the dialog was cancelled.
+    virtual std::optional<QString> open_file_name(QWidget* parent, const QString& folder) = 0;
+    virtual std::optional<QString> save_file_name(QWidget* parent, const QString& initial) = 0;
+    // Opens a document with the program the desktop has for it; false when it cannot.
+    virtual bool open_document(const QString& path) = 0;
+};
+
+// The real boxes and dialogs of the desktop.
+class DialogPrompter final : public Prompter {
+public:
+    void message(QWidget* parent, const QString& title, const QString& text, bool warning) override;
+    Answer save_changes(QWidget* parent, const QString& title, const QString& text) override;
+    bool yes_no(QWidget* parent, const QString& title, const QString& text) override;
+    std::optional<QString> open_file_name(QWidget* parent, const QString& folder) override;
+    std::optional<QString> save_file_name(QWidget* parent, const QString& initial) override;
+    bool open_document(const QString& path) override;
+};
+
+} // namespace kvelder

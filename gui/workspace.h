@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/load_dialogs.h"
+#include "model/message.h"
+#include "model/model.h"
+#include "model/picture.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace kvelder {
+
+class InputBox;
+
+// What a panel of the main window may ask of the window: the beam, the one
+// recalculation, the message boxes, and the rule every text box runs through.
+class Workspace {
+public:
+    virtual ~Workspace() = default;
+
+    virtual Model& model() = 0;
+    virtual LoadDialogs& dialogs() = 0;
+
+    // The one recalculation entry point: runs the whole chain, redraws the
+    // pictures and refreshes every panel. Never nests.
+    virtual void recalculate() = 0;
+    // Refreshes the panels from the beam without a recalculation.
+    virtual void refresh() = 0;
+    // Leaves a result picture blank until the next run that gets past its gate.
+    virtual void blank(Picture picture) = 0;
+    virtual void show_message(const Message& message) = 0;
+
+    // A box's rule: `apply` stores the box's text in the beam and returns the
+    // box's new text and its failure, if any; `focus` is the box that takes
+    // the focus back on a failure (the box itself when null). The rule runs
+    // only when no other box's message is open and no file is loading; a pass
+    // recalculates when `recalculate` says so.
+    struct BoxResult {
+        QString text;
+        std::optional<Message> failure;
+        InputBox* focus = nullptr;
+    };
+    virtual bool run_box_rule(InputBox& box, const std::function<BoxResult()>& apply,
+                              bool recalculate = true) = 0;
+
+    // True while the program itself fills the controls: handlers do nothing then.
+    virtual bool filling() const = 0;
+};
+
+} // namespace kvelder

@@ -1,0 +1,103 @@
+// The captions of the main window in both languages, and what a switch of language leaves.
+
+#include "ui/captions.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <optional>
+#include <set>
+
+namespace kvelder::test {
+namespace {
+
+std::optional<std::string> text_of(const std::vector<Caption>& captions, const std::string& control)
+{
+    for (const auto& c : captions) {
+        if (c.control == control) {
+            return c.text;
+        }
+    }
+    return std::nullopt;
+}
+
+TEST(Captions, ShowTheWindowsTextsLetterForLetter)
+{
+    const auto eng = window_captions("Eng", "610a", 3);
+    const auto nor = window_captions("Nor", "610a", 3);
+    const struct {
+        const char* control;
+        const char* eng;
+        const char* nor;
+    } cases[] = {
+        {"mnufileitem_1", "Open ", "\u00c5pne "},
+        {"mnufileitem_3", "Save As ", "Lagre som "},
+        {"Opt_loadcomb1", "Permanent- + total variable load", "Permanent- + total nyttelast  "},
+        {"Lbl_psi0_1_1", "Q1:", " Q1:"},
+        {"Fraegenlast", "Permanent ( kN, kN/m, kNm )", "Permanent ( kN, kN/m, kNm )"},
+        {"optStandard", "Standard", "Standerd"},
+        {"Lblcontrtau", "Shear", "Skj\u00e6r"},
+        {"lbl_opp_l", "lef", "lef"},
+        {"mnunew", "New", "Ny"},
+        {"frmSuppRight", "Right support", "H\u00f6yre Opplager"},
+        {"lblMaterial", "Material:", "Material:"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(text_of(eng, c.control), c.eng) << c.control;
+        EXPECT_EQ(text_of(nor, c.control), c.nor) << c.control;
+    }
+    EXPECT_EQ(eng.front(), (Caption{"mnufile", "File "}));
+    EXPECT_EQ(nor.back(), (Caption{"lblMaterial", "Material:"}));
+    // Only "Eng" is English; any other language is Norwegian.
+    EXPECT_EQ(window_captions("Swe", "610a", 3), nor);
+}
+
+TEST(Captions, FollowTheCombinationRuleAndTheDurationClass)
+{
+    EXPECT_EQ(text_of(window_captions("Eng", "610a", 3), "Fraresult"), "Results  (6.10a)");
+    EXPECT_EQ(text_of(window_captions("Nor", "610b", 3), "Fraresult"), "Resultater  (6.10b)");
+    EXPECT_EQ(text_of(window_captions("Eng", "610a", 3), "Lbl_lastvarig2"), "Medium term");
+    EXPECT_EQ(text_of(window_captions("Eng", "610a", 5), "Lbl_lastvarig2"), "Instantaneous");
+    EXPECT_EQ(text_of(window_captions("Nor", "610a", 1), "Lbl_lastvarig2"), "Permanent");
+    EXPECT_EQ(text_of(window_captions("Nor", "610a", 5), "Lbl_lastvarig2"), "\u00d8yeblikk");
+    EXPECT_EQ(text_of(window_captions("Nor", "610a", 0), "Lbl_lastvarig2"), "");
+    EXPECT_EQ(text_of(window_captions("Eng", "610a", 6), "Lbl_lastvarig2"), "");
+}
+
+// Norwegian leaves mnuexit and Lblcontrvipp alone, so they must keep the form's text;
+// every other control English sets must be set again by Norwegian.
+TEST(Captions, SwitchingBackToNorwegianLeavesNoEnglishBehind)
+{
+    std::map<std::string, std::string> shown;
+    const auto apply = [&](const std::vector<Caption>& captions) {
+        std::set<std::string> seen;
+        for (const auto& c : captions) {
+            EXPECT_TRUE(seen.insert(c.control).second) << "set twice: " << c.control;
+            shown[c.control] = c.text;
+        }
+    };
+    apply(form_captions());
+    apply(window_captions("Nor", "610a", 3));
+    const auto norwegian = shown;
+    EXPECT_EQ(norwegian.at("mnuexit"), "Exit");
+    EXPECT_EQ(norwegian.at("Lblcontrvipp"), "Tor. buck");
+    EXPECT_FALSE(text_of(window_captions("Nor", "610a", 3), "mnuexit"));
+
+    apply(window_captions("Eng", "610b", 1));
+    EXPECT_EQ(shown.at("mnufile"), "File ");
+    apply(window_captions("Nor", "610a", 3));
+    EXPECT_EQ(shown, norwegian);
+}
+
+TEST(Captions, NameTheFamiliesAndTheProgram)
+{
+    EXPECT_EQ(family_names("Eng"), (std::array<std::string, 4>{"Timber", "Laminated", "Kerto", "K-bjelke"}));
+    EXPECT_EQ(family_names("Nor"), (std::array<std::string, 4>{"Trelast", "Laminert", "Kerto", "K-bjelke"}));
+    EXPECT_EQ(program_title(), "Kvelder");
+    EXPECT_EQ(program_line("Eng"), "Analysis of a beam according to EC5");
+    EXPECT_EQ(program_line("Nor"), "Beregning av en bjelke if\u00f8lge EC5");
+    EXPECT_EQ(version_line(), "Version  1.3.0");
+}
+
+} // namespace
+} // namespace kvelder::test
