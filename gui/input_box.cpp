@@ -14,11 +14,16 @@ InputBox::InputBox(const QString& name, QWidget* parent) : QLineEdit(parent)
 
 bool InputBox::commit()
 {
-    return m_rule ? m_rule() : true;
+    // A box left as the program filled it has nothing new for the beam.
+    if (!m_rule || !(isModified() || m_failed)) {
+        return true;
+    }
+    return m_rule();
 }
 
 void InputBox::set_failed(bool failed)
 {
+    m_failed = failed;
     QPalette p = palette();
     p.setColor(QPalette::Base, failed ? QColor(0, 255, 0) : QColor(Qt::white));
     setPalette(p);

@@ -6,10 +6,10 @@
 
 namespace kvelder {
 
-// A text box of the window. Its rule runs once each time the engineer leaves
-// it, by Tab, Enter or a click elsewhere, and again when a menu command
-// commits it; never for a focus that a message box or a menu takes away. The
-// whole text is selected when the box takes the focus.
+// A text box of the window. Its rule runs each time the engineer leaves it
+// with a typed or a refused value, by Tab, Enter or a click elsewhere, and
+// when a menu command commits it; never for a focus that a message box or a
+// menu takes away. The whole text is selected when the box takes the focus.
 class InputBox : public QLineEdit {
     Q_OBJECT
 public:
@@ -18,10 +18,12 @@ public:
 
     explicit InputBox(const QString& name, QWidget* parent = nullptr);
     void set_rule(Rule rule) { m_rule = std::move(rule); }
-    // Runs the rule now; true when the value was taken.
+    // Runs the rule when the box holds a typed or a refused value; true when
+    // the value was taken (or there was nothing to take).
     bool commit();
     // Green for a refused value, white for one that passed.
     void set_failed(bool failed);
+    bool failed() const { return m_failed; }
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -30,6 +32,7 @@ protected:
 
 private:
     Rule m_rule;
+    bool m_failed = false;
 };
 
 } // namespace kvelder

@@ -143,7 +143,8 @@ void SpanPanel::fill()
 
 void SpanPanel::choose_span_count(int nf)
 {
-    if (m_ws.filling()) {
+    // A click on the count in force changes nothing.
+    if (m_ws.filling() || nf == m_ws.model().nf) {
         return;
     }
     const std::optional<SpanFailure> failure = kvelder::choose_span_count(m_ws.model(), nf, m_ws.dialogs());

@@ -145,6 +145,23 @@ constexpr FormText kForm[] = {
     {"Lbl_kc901", "kc90"},
 };
 
+// Words of controls the program added, in both languages, applied after the
+// program's own tables.
+constexpr Pair kAdded[] = {
+    {"mnuman", "Manual", "Brukermanual"},
+    {"mnuUpdate", "Update information", "Oppdateringer"},
+    {"mnuabout", "About", "Om programmet"},
+    {"optSuppLeft_0", "Free", "Fri"},
+    {"optSuppLeft_1", "Simple", "Opplagt"},
+    {"optSuppLeft_2", "Fixed", "Innspent"},
+    {"optSuppRight_0", "Free", "Fri"},
+    {"optSuppRight_1", "Simple", "Opplagt"},
+    {"optSuppRight_2", "Fixed", "Innspent"},
+    {"Check_vipping", "Check", "Kontroll"},
+    {"Frakrefter", "Moment and shear", "Moment og skj\u00e6r"},
+    {"Fradisp", "Deflection (mm)", "Nedb\u00f8yning (mm)"},
+};
+
 std::string state_text(const Pair& p, bool english, const std::string& comb_rule, int duration_class)
 {
     switch (p.from) {
@@ -186,6 +203,9 @@ std::vector<Caption> window_captions(const std::string& language, const std::str
         if (english || p.nor != nullptr) {
             captions.push_back({p.control, state_text(p, english, comb_rule, duration_class)});
         }
+    }
+    for (const Pair& p : kAdded) {
+        captions.push_back({p.control, english ? p.eng : p.nor});
     }
     return captions;
 }

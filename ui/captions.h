@@ -26,7 +26,8 @@ std::vector<Caption> form_captions();
 // family list. "Eng" gives English, any other language Norwegian. Fraresult follows
 // comb_rule ("610b" shows 6.10b, anything else 6.10a) and Lbl_lastvarig2 the
 // duration class (1..5, empty outside). A control Norwegian leaves alone is not in
-// its list, so switching from English keeps the form's text there.
+// its list, so switching from English keeps the form's text there. The words of
+// controls the program added come last, in both languages.
 std::vector<Caption> window_captions(const std::string& language, const std::string& comb_rule,
                                      int duration_class);
 

@@ -1,7 +1,6 @@
 // The recent files in the user's settings: the names under which they are kept.
 
 #include "gui/recent_files_settings.h"
-#include "tests/support/beams.h"
 
 #include <QSettings>
 #include <gtest/gtest.h>
@@ -11,9 +10,8 @@ namespace {
 
 TEST(RecentFilesSettings, KeptUnderTheApplicationSectionAndKeys)
 {
-    const std::filesystem::path folder = scratch_folder() / "settings";
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       QString::fromStdString(folder.string()));
+    // The test main keeps the settings in the scratch folder; each run starts from none.
+    QSettings(QSettings::NativeFormat, QSettings::UserScope, "Kvelder", "Kvelder").remove("Recent Files");
     {
         RecentFilesSettings store;
         EXPECT_TRUE(ShowRecentFiles(store).empty());

@@ -1,0 +1,523 @@
+// The main window driven as the engineer drives it: keys and clicks into its
+// boxes, options and file menu, with every box and dialog answered by a script.
+
+#include "files/project_file.h"
+#include "files/start_values.h"
+#include "gui/input_box.h"
+#include "gui/main_window.h"
+#include "gui/picture_box.h"
+#include "gui/prompter.h"
+#include "tests/support/beams.h"
+#include "ui/edits.h"
+#include "ui/load_checks.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <deque>
+#include <fstream>
+#include <iterator>
+
+// Texts in the failures of the checks below.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace kvelder::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Answer = Prompter::Answer;
+
+// Answers from queues and keeps every text it was shown. Each box takes the
+// activation from the window while it is up and gives it back, as a modal box
+// does, so that the focus-outs it causes reach the boxes; none waits for a person.
+class ScriptedPrompter final : public Prompter {
+public:
+    QStringList messages;  // every message, in order
+    QStringList questions; // save-changes and yes/no questions
+    std::deque<Answer> save_answers;
+    std::deque<bool> yes_answers;
+    std::deque<std::optional<QString>> file_names;
+
+    void message(QWidget* p, const QString&, const QString& text, bool) override
+    {
+        modal(p);
+        messages << text;
+    }
+    Answer save_changes(QWidget* p, const QString&, const QString& text) override
+    {
+        return next(p, save_answers, Answer::Cancel, text);
+    }
+    bool yes_no(QWidget* p, const QString&, const QString& text) override
+    {
+        return next(p, yes_answers, false, text);
+    }
+    std::optional<QString> open_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
+    std::optional<QString> save_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
+    bool open_document(const QString&) override { return false; }
+
+private:
+    template <typename T>
+    T next(QWidget* parent, std::deque<T>& queue, T otherwise = {}, QString question = {})
+    {
+        modal(parent);
+        if (!question.isEmpty()) {
+            questions << question;
+        }
+        if (queue.empty()) {
+            ADD_FAILURE() << "a question the script does not answer";
+            return otherwise;
+        }
+        otherwise = queue.front();
+        queue.pop_front();
+        return otherwise;
+    }
+    void modal(QWidget* parent)
+    {
+        m_box.show();
+        m_box.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_box));
+        m_box.hide();
+        parent->window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(parent->window()));
+    }
+    QWidget m_box;
+};
+
+QString qpath(const fs::path& path)
+{
+    return QString::fromStdString(path.string());
+}
+
+std::string contents(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::unique_ptr<Model> reopened(const fs::path& path)
+{
+    auto m = std::make_unique<Model>();
+    LoadDialogs dialogs{};
+    EXPECT_FALSE(ReadProject(*m, path, dialogs).has_value()) << path;
+    return m;
+}
+
+class MainWindowFlow : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+    }
+
+    // The window as the program starts it, on the data folder of the sources.
+    void start(const std::optional<std::string>& project = {})
+    {
+        window.reset();
+        model = std::make_unique<Model>();
+        recent.keys.clear();
+        prompter.messages.clear();
+        const std::vector<DataFileNote> notes = start_up(*model, source_data_dir());
+        dialogs = load_dialogs(*model);
+        window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent, WindowFolders{{}, m_folder});
+        QObject::connect(window.get(), &MainWindow::recalculated,
+                         [this] { spans_at_runs.push_back(model->nf); });
+        window->show();
+        window->begin(notes, project);
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    template <typename W = QWidget> W* get(const char* name) const
+    {
+        W* w = window->findChild<W*>(name);
+        EXPECT_NE(w, nullptr) << name;
+        return w;
+    }
+    QString text(const char* label) const { return get<QLabel>(label)->text(); }
+    QString frame(const char* name) const { return get<QGroupBox>(name)->title(); }
+    QString item(const char* name) const { return get<QAction>(name)->text(); }
+    bool blank(const char* picture) const
+    {
+        const QImage image = get<PictureBox>(picture)->image();
+        QImage white = image;
+        white.fill(Qt::white);
+        return !image.isNull() && image == white;
+    }
+    bool green(const char* box) const
+    {
+        return get(box)->palette().color(QPalette::Base) == QColor(0, 255, 0);
+    }
+    bool focus_on(const char* name)
+    {
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window.get()) && QApplication::focusWidget() == get(name);
+    }
+
+    // An option takes the click on its mark, at its left end.
+    void click(const char* name)
+    {
+        QWidget* w = get(name);
+        const bool button = qobject_cast<QAbstractButton*>(w) != nullptr;
+        QTest::mouseClick(w, Qt::LeftButton, {}, button ? QPoint(6, w->height() / 2) : w->rect().center());
+    }
+    // Types over the whole text of a box, clicking into it unless it has the
+    // focus, and leaves it by Tab; the recalculations that the leaving ran.
+    int type(const char* name, const QString& text, bool leave = true)
+    {
+        InputBox* box = get<InputBox>(name);
+        if (!box->hasFocus()) {
+            QTest::mouseClick(box, Qt::LeftButton);
+        }
+        QApplication::processEvents();
+        EXPECT_TRUE(box->hasFocus() && box->selectedText() == box->text()) << name;
+        QTest::keyClick(box, Qt::Key_Delete);
+        QTest::keyClicks(box, text);
+        const int runs = window->runs();
+        if (leave) {
+            QTest::keyClick(box, Qt::Key_Tab);
+        }
+        return window->runs() - runs;
+    }
+    void keys(QKeySequence::StandardKey key)
+    {
+        ASSERT_FALSE(QKeySequence(key).isEmpty());
+        QWidget* target = QApplication::focusWidget();
+        QTest::keySequence(target != nullptr ? target : window.get(), QKeySequence(key));
+    }
+    // Opens the file menu with the mouse and clicks one of its items.
+    void menu(const char* name)
+    {
+        auto* file = get<QMenu>("mnufile");
+        QMenuBar* bar = window->menuBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(file->menuAction()).center());
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(file));
+        QTest::mouseClick(file, Qt::LeftButton, {}, file->actionGeometry(get<QAction>(name)).center());
+    }
+
+    QString write(const std::string& name, Model& m)
+    {
+        EXPECT_FALSE(WriteProject(m, m_folder / name).has_value()) << name;
+        return qpath(m_folder / name);
+    }
+    // The example beam on three spans of 4, 5 and 6 m, with G and Q1 on span 3.
+    static std::unique_ptr<Model> three_spans()
+    {
+        auto m = example_beam();
+        set_span_count(*m, 3);
+        m->ffl_s(1) = 4.0F, m->ffl_s(3) = 6.0F;
+        add_uniform(m->G, 3, 1.5F);
+        add_point(m->Q1, 3, 7.5F, 3.0F);
+        return m;
+    }
+
+    const fs::path m_folder = scratch_folder() / "window";
+    ScriptedPrompter prompter;
+    RecentFilesInMemory recent;
+    std::unique_ptr<Model> model;
+    LoadDialogs dialogs{};
+    std::vector<int> spans_at_runs; // nf at each recalculation
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowFlow, StartsOnTheExampleOrTheProjectOfTheCommandLineWithOneRun)
+{
+    start();
+    EXPECT_EQ(window->runs(), 1);
+    EXPECT_EQ(window->windowTitle().toStdString(), model->title_suffix + "New file");
+    EXPECT_TRUE(prompter.messages.isEmpty());
+    EXPECT_TRUE(focus_on("txtprosjekt"));
+    EXPECT_FALSE(get<QAction>("mnuspace")->isVisible()); // a fresh store lists no project
+    EXPECT_FALSE(get<QAction>("mnurecentfile_1")->isVisible());
+    const QString example_moment = text("lbl_mom_0");
+
+    // The project of the command line is the first beam calculated, and the only one.
+    const QString three = write("three spans.kvel", *three_spans());
+    spans_at_runs.clear();
+    start("\"" + three.toStdString() + "\"");
+    EXPECT_EQ(spans_at_runs, std::vector<int>{3});
+    EXPECT_EQ(model->loading_flag, kFalse);
+    EXPECT_EQ(get<InputBox>("Txtfelt_2")->text(), "6.000");
+    EXPECT_TRUE(get("lbl_mom_2")->isVisible() && !text("lbl_mom_2").isEmpty());
+    EXPECT_NE(text("lbl_mom_0"), example_moment);
+    EXPECT_EQ(item("mnurecentfile_1"), "1. " + three);
+
+    // A file that is not there leaves the example beam, calculated once.
+    start((m_folder / "gone.kvel").string());
+    EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
+    EXPECT_EQ(window->runs(), 1);
+    EXPECT_EQ(text("lbl_mom_0"), example_moment);
+    EXPECT_EQ(window->session().project_path, "New file");
+    EXPECT_FALSE(get<QAction>("mnurecentfile_1")->isVisible());
+}
+
+TEST_F(MainWindowFlow, LeavingASpanBoxRecalculatesOrAsksForTheLengthOnce)
+{
+    start();
+    const QString moment = text("lbl_mom_0");
+    const QImage diagram = get<PictureBox>("Picresult")->image();
+    EXPECT_EQ(type("Txtfelt_0", "7"), 1);
+    EXPECT_EQ(get<InputBox>("Txtfelt_0")->text(), "7.000");
+    EXPECT_NE(text("lbl_mom_0"), moment);
+    EXPECT_NE(get<PictureBox>("Picresult")->image(), diagram);
+
+    // An emptied span: its message, the box green with the focus, and no run.
+    EXPECT_EQ(type("Txtfelt_0", ""), 0);
+    EXPECT_EQ(prompter.messages, QStringList{"Length of span is missing"});
+    EXPECT_TRUE(green("Txtfelt_0"));
+    EXPECT_TRUE(focus_on("Txtfelt_0"));
+    // A click into another box leaves it again: one message more, the other box untouched.
+    int runs = window->runs();
+    click("Txt_kc90");
+    EXPECT_EQ(prompter.messages.size(), 2);
+    EXPECT_TRUE(focus_on("Txtfelt_0"));
+    EXPECT_FALSE(green("Txt_kc90"));
+    EXPECT_EQ(window->runs(), runs);
+    type("Txtfelt_0", "5", false);
+    QTest::keyClick(get("Txtfelt_0"), Qt::Key_Return); // Enter leaves a box as Tab does
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_FALSE(green("Txtfelt_0"));
+
+    // A second bad box in turn: its own message once per leaving, and no other box answers.
+    click("optRect");
+    EXPECT_EQ(type("txt_b1", "0"), 0);
+    runs = window->runs();
+    click("Txtfelt_0");
+    EXPECT_EQ(prompter.messages.mid(2), (QStringList{" b =< 0 ", " b =< 0 "}));
+    EXPECT_TRUE(focus_on("txt_b1"));
+    EXPECT_EQ(window->runs(), runs);
+    EXPECT_EQ(type("txt_b1", "140"), 1);
+    EXPECT_EQ(prompter.messages.size(), 4);
+}
+
+TEST_F(MainWindowFlow, EveryNumberBoxTakesAnyTextAndChangesOnlyItsOwnValue)
+{
+    start();
+    const auto inputs = [this] {
+        const Model& m = *model;
+        return std::array<float, 7>{m.ffl_s(1), m.section_b,       m.section_h,        m.section_d,
+                                    m.ffl_s(2), m.bearing_kc90(1), m.bearing_length(1)};
+    };
+    struct Case {
+        const char* box;
+        const char* option; // that enables it
+        QString message;
+        std::size_t input;
+    };
+    const Case cases[] = {{"Txtfelt_0", nullptr, "Length of span is missing", 0},
+                          {"Txt_kc90", nullptr, " kc90 < 0 ", 5},
+                          {"Txt_opp_L", nullptr, "Support length =< 0 ", 6},
+                          {"txt_b1", "optRect", " b =< 0 ", 1},
+                          {"txt_h1", "optRect", " h =< 0 ", 2},
+                          {"txt_d", "optCircle", " d =< 0 ", 3}};
+    const QStringList texts{"", "abc", "1e999", "-0", "nan", ",", "1,5", "1.5", QString(300, '9')};
+    for (const Case& c : cases) {
+        if (c.option != nullptr) {
+            click(c.option);
+        }
+        const QString original = get<InputBox>(c.box)->text();
+        const auto others = inputs();
+        for (const QString& t : texts) {
+            prompter.messages.clear();
+            const int runs = type(c.box, t);
+            const bool passes = t == "1,5" || t == "1.5";
+            const std::string where = c.box + (" " + t.toStdString());
+            EXPECT_EQ(prompter.messages, passes ? QStringList{} : QStringList{c.message}) << where;
+            EXPECT_EQ(runs, passes ? 1 : 0) << where;
+            EXPECT_EQ(green(c.box), !passes) << where;
+            auto now = inputs();
+            now[c.input] = others[c.input];
+            EXPECT_EQ(now, others) << where;
+        }
+        type(c.box, original);
+        EXPECT_EQ(inputs(), others) << c.box;
+    }
+}
+
+TEST_F(MainWindowFlow, FewerSpansDropTheirLoadsAndLooseEndsBlankTheResults)
+{
+    start(); // the example's results stand until the project's run
+    prompter.file_names = {write("three.kvel", *three_spans())};
+    keys(QKeySequence::Open);
+    ASSERT_EQ(model->nf, 3);
+    const auto rows_on_span_3 = [this] { // G uniform and Q1 point rows
+        const auto span = [](const RowTexts& row) { return row[0]; };
+        return std::ranges::count(dialogs[0].frames[0], "3", span) +
+               std::ranges::count(dialogs[1].frames[2], "3", span);
+    };
+    EXPECT_EQ(rows_on_span_3(), 2);
+    click("Optfelt_1");
+    EXPECT_EQ(model->G.uni_n, 2);
+    EXPECT_EQ(model->Q1.pt_n, 0);
+    EXPECT_EQ(rows_on_span_3(), 0);
+    EXPECT_FALSE(get("Txtfelt_2")->isVisible());
+    EXPECT_EQ(window->runs(), 3);
+
+    // One free end stands on two spans; two do not, and the results go blank.
+    click("optSuppLeft_0");
+    EXPECT_EQ(window->runs(), 4);
+    click("optSuppRight_0");
+    EXPECT_EQ(prompter.messages, QStringList{"Number of restraints are insufficient,the beam is unstable"});
+    EXPECT_EQ(window->runs(), 4);
+    EXPECT_TRUE(blank("Picresult") && blank("Picdisp"));
+    click("optSuppRight_1");
+    EXPECT_EQ(window->runs(), 5);
+    EXPECT_FALSE(blank("Picresult"));
+
+    // Back to three spans: the new span asks for its length, and its loads stay gone.
+    click("Optfelt_2");
+    EXPECT_EQ(prompter.messages.last(), "Length of span is missing");
+    EXPECT_TRUE(focus_on("Txtfelt_2"));
+    EXPECT_TRUE(get<QRadioButton>("optSuppLeft_1")->isChecked());
+    EXPECT_EQ(type("Txtfelt_2", "6"), 1);
+    EXPECT_EQ(window->runs(), 6);
+    EXPECT_EQ(rows_on_span_3(), 0);
+}
+
+TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
+{
+    start();
+    // A project that stops at the gate still leaves a window that works.
+    auto no_span = example_beam();
+    no_span->ffl_s(2) = 0;
+    const QString gate = write("gate.kvel", *no_span);
+    prompter.file_names = {gate};
+    keys(QKeySequence::Open);
+    EXPECT_EQ(window->runs(), 2);
+    EXPECT_EQ(model->loading_flag, kFalse);
+    click("Opt_610b");
+    EXPECT_EQ(window->runs(), 3);
+    EXPECT_EQ(type("Txtfelt_1", "4"), 1);
+
+    // A file that is not there changes nothing.
+    prompter.messages.clear();
+    const QString caption = window->windowTitle();
+    const auto listed = recent.keys;
+    prompter.save_answers = {Answer::Discard};
+    prompter.file_names = {qpath(m_folder / "gone.kvel")};
+    keys(QKeySequence::Open);
+    EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
+    EXPECT_EQ(window->windowTitle(), caption);
+    EXPECT_EQ(window->session().project_path, gate.toStdString());
+    EXPECT_EQ(recent.keys, listed);
+    EXPECT_EQ(model->ffl_s(2), 4.0F);
+
+    // Save takes what a box holds before it is left.
+    type("txtprosjekt", "Hall & Co", false);
+    keys(QKeySequence::Save);
+    EXPECT_EQ(reopened(gate.toStdString())->prosjekt_s, "Hall & Co");
+    type("Txtfelt_0", "7.5", false);
+    keys(QKeySequence::Save);
+    EXPECT_EQ(reopened(gate.toStdString())->ffl_s(1), 7.5F);
+
+    // Save As onto a file that is there asks first: No keeps it, Yes replaces it.
+    const fs::path other = m_folder / "other.kvel";
+    std::ofstream(other) << "not a project";
+    prompter.file_names = {qpath(other), qpath(other), std::nullopt};
+    prompter.yes_answers = {false, true};
+    menu("mnufileitem_3");
+    EXPECT_EQ(prompter.questions.last(), qpath(other) + " already exists. Do you want to replace it?");
+    EXPECT_EQ(contents(other), "not a project");
+    EXPECT_EQ(window->session().project_path, gate.toStdString());
+    menu("mnufileitem_3");
+    EXPECT_EQ(contents(other), contents(gate.toStdString()));
+    EXPECT_EQ(window->windowTitle().toStdString(), model->title_suffix + other.string());
+    menu("mnufileitem_3");
+    EXPECT_EQ(prompter.messages.last(), "Cancel were pressed");
+
+    // The recent files show a path as it is, its "&" too.
+    const QString amp = qpath(m_folder / "R&D.kvel");
+    prompter.file_names = {amp};
+    menu("mnufileitem_3");
+    EXPECT_TRUE(get<QAction>("mnuspace")->isVisible() && get<QAction>("mnurecentfile_2")->isVisible());
+    EXPECT_EQ(item("mnurecentfile_1"), "1. " + QString(amp).replace("&", "&&"));
+    EXPECT_EQ(item("mnurecentfile_2"), "2. " + qpath(other));
+
+    // A recent project opens in front of the others, after the question about the change.
+    click("Opt_610a");
+    prompter.save_answers = {Answer::Discard};
+    const int runs = window->runs();
+    menu("mnurecentfile_2");
+    EXPECT_EQ(prompter.questions.last(), "Save changes to " + amp + "?");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(item("mnurecentfile_1"), "1. " + qpath(other));
+
+    // A box that refuses its value refuses the save with its message.
+    click("optRect");
+    type("txt_b1", "0");
+    const std::string saved = contents(other);
+    prompter.messages.clear();
+    menu("mnufileitem_2");
+    EXPECT_EQ(prompter.messages, QStringList{" b =< 0 "});
+    EXPECT_EQ(contents(other), saved);
+}
+
+TEST_F(MainWindowFlow, CaptionsFollowTheDesignSituationAndTheLanguageOfTheProject)
+{
+    start();
+    EXPECT_EQ(get<QMenu>("mnufile")->title(), "File ");
+    EXPECT_EQ(text("Lbl_lastvarig2"), "Medium term");
+    EXPECT_EQ(frame("Fraresult"), "Results  (6.10a)");
+    click("Opt_610b");
+    EXPECT_EQ(frame("Fraresult"), "Results  (6.10b)");
+
+    // A Norwegian project turns the window Norwegian, but for the words the form keeps.
+    auto nor = example_beam();
+    choose_language(*nor, "Nor");
+    prompter.save_answers = {Answer::Discard};
+    prompter.file_names = {write("norsk.kvel", *nor)};
+    keys(QKeySequence::Open);
+    EXPECT_EQ(prompter.questions, QStringList{"Save changes to New file?"});
+    EXPECT_EQ(get<QMenu>("mnufile")->title(), "Fil ");
+    EXPECT_EQ(item("mnufileitem_1"), "\u00c5pne ");
+    EXPECT_EQ(item("mnuexit"), "Exit");
+    EXPECT_EQ(text("Lblcontrvipp"), "Tor. buck");
+    EXPECT_EQ(text("Lbl_lastvarig2"), "Halv\u00e5rs");
+    EXPECT_EQ(frame("Fraresult"), "Resultater  (6.10a)");
+    EXPECT_EQ(get<QRadioButton>("optStandard")->text(), "Standerd");
+    EXPECT_EQ(type("Txtfelt_0", ""), 0);
+    EXPECT_EQ(prompter.messages, QStringList{"Feltlengde mangler"});
+}
+
+TEST_F(MainWindowFlow, AChangedBeamIsAskedAboutBeforeItIsThrownAway)
+{
+    start();
+    // New commits the box first, so the typed span counts as a change.
+    type("Txtfelt_0", "6", false);
+    prompter.save_answers = {Answer::Cancel, Answer::Cancel};
+    keys(QKeySequence::New);
+    EXPECT_EQ(prompter.questions, QStringList{"Save changes to New file?"});
+    EXPECT_EQ(get<InputBox>("Txtfelt_0")->text(), "6.000");
+    EXPECT_EQ(window->runs(), 2);
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(prompter.questions.size(), 2);
+
+    // Discard: the example beam, calculated once, and nothing to ask about.
+    click("txtprosjekt"); // a box whose leaving does not recalculate
+    const int runs = window->runs();
+    prompter.save_answers = {Answer::Discard};
+    keys(QKeySequence::New);
+    EXPECT_EQ(get<InputBox>("Txtfelt_0")->text(), "5.000");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(model->loading_flag, kFalse);
+    EXPECT_EQ(window->session().project_path, "New File");
+    keys(QKeySequence::New);
+    EXPECT_EQ(window->runs(), runs + 2);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(prompter.questions.size(), 3);
+}
+
+} // namespace
+} // namespace kvelder::test
