@@ -162,24 +162,18 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         m_pictures[k] = findChild<PictureBox*>(picture_name(kPictures[k]));
         connect(m_pictures[k], &PictureBox::resized, this, &MainWindow::schedule_redraw);
     }
-    m_project->set_rule([this] {
-        return run_box_rule(
-            *m_project,
-            [this] {
-                m_model.prosjekt_s = m_project->text().toStdString();
-                return BoxResult{m_project->text(), std::nullopt, nullptr};
-            },
-            false);
-    });
-    m_id->set_rule([this] {
-        return run_box_rule(
-            *m_id,
-            [this] {
-                m_model.id_s = m_id->text().toStdString();
-                return BoxResult{m_id->text(), std::nullopt, nullptr};
-            },
-            false);
-    });
+    // The heading is kept as typed and needs no recalculation.
+    for (auto [box, field] : {std::pair{m_project, &Model::prosjekt_s}, {m_id, &Model::id_s}}) {
+        box->set_rule([this, box = box, field = field] {
+            return run_box_rule(
+                *box,
+                [this, box, field] {
+                    m_model.*field = box->text().toStdString();
+                    return BoxResult{box->text(), std::nullopt, nullptr};
+                },
+                false);
+        });
+    }
 
     // The help buttons carry a question mark only.
     for (const char* name : {"Cmd_opplegg", "Cmd_loadcomb2", "Cmd_610a_b", "Cmd_vipp_text"}) {

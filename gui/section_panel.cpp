@@ -146,29 +146,22 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     buckling_row->addWidget(m_buckling_text);
     column->addWidget(buckling);
 
-    connect(m_family, &QComboBox::activated, this, [this](int index) {
-        if (m_ws.filling()) {
-            return;
-        }
-        choose_family(m_ws.model(), index);
-        fill();
-        m_ws.recalculate();
-    });
-    connect(m_profile, &QComboBox::activated, this, [this](int index) {
-        if (m_ws.filling()) {
-            return;
-        }
-        choose_profile(m_ws.model(), index);
-        fill();
-        m_ws.recalculate();
-    });
-    connect(m_material, &QComboBox::activated, this, [this](int index) {
-        if (m_ws.filling()) {
-            return;
-        }
-        choose_material(m_ws.model(), index);
-        m_ws.recalculate();
-    });
+    // A family or a profile brings its sizes into the boxes; a material does not.
+    const auto list_choice = [this](QComboBox* combo, void (*choose)(Model&, int), bool new_sizes) {
+        connect(combo, &QComboBox::activated, this, [this, choose, new_sizes](int index) {
+            if (m_ws.filling()) {
+                return;
+            }
+            choose(m_ws.model(), index);
+            if (new_sizes) {
+                fill();
+            }
+            m_ws.recalculate();
+        });
+    };
+    list_choice(m_family, &choose_family, true);
+    list_choice(m_profile, &choose_profile, true);
+    list_choice(m_material, &choose_material, false);
     connect(m_standard, &QRadioButton::clicked, this, [this] { choose_option(0); });
     connect(m_rect, &QRadioButton::clicked, this, [this] { choose_option(1); });
     connect(m_circle, &QRadioButton::clicked, this, [this] { choose_option(2); });

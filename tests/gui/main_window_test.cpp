@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -260,6 +261,42 @@ TEST_F(MainWindowFlow, StartsOnTheExampleOrTheProjectOfTheCommandLineWithOneRun)
     EXPECT_EQ(text("lbl_mom_0"), example_moment);
     EXPECT_EQ(window->session().project_path, "New file");
     EXPECT_FALSE(get<QAction>("mnurecentfile_1")->isVisible());
+}
+
+TEST_F(MainWindowFlow, ListsOptionsAndChecksRecalculateAndSetWhatTheyEnable)
+{
+    start();
+    // Kerto by the keyboard: free rectangles only, and its sizes in the boxes.
+    auto* family = get<QComboBox>("cboProfType");
+    family->setFocus();
+    int runs = window->runs();
+    QTest::keyClick(family, Qt::Key_Down);
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(model->prof_type_index, 2);
+    EXPECT_FALSE(get("optStandard")->isEnabled() || get("optCircle")->isEnabled() ||
+                 get("cboProf")->isEnabled());
+    EXPECT_TRUE(get("txt_b1")->isEnabled() && get<QRadioButton>("optRect")->isChecked());
+    EXPECT_EQ(get<InputBox>("txt_h1")->text().toStdString(),
+              std::to_string(static_cast<int>(model->section_h)));
+    QTest::keyClick(family, Qt::Key_Up);
+
+    // Self weight, buckling and the patterns of Q1, each with one run.
+    runs = window->runs();
+    click("Check_profilvekt");
+    click("Check_vipping");
+    click("Opt_loadcomb2");
+    EXPECT_EQ(window->runs(), runs + 3);
+    EXPECT_EQ(model->profile_weight_on, kTrue);
+    EXPECT_TRUE(get("Cmd_input_vipping")->isVisible() && !text("lbl_vipp_0").isEmpty());
+    EXPECT_EQ(model->loadcomb_option, 2);
+    // One span has no patterns; a circle has no buckling check and no bearing rows.
+    click("Optfelt_0");
+    EXPECT_TRUE(get<QRadioButton>("Opt_loadcomb1")->isChecked());
+    EXPECT_FALSE(get("Opt_loadcomb2")->isEnabled());
+    click("optCircle");
+    EXPECT_FALSE(get("Check_vipping")->isVisible() || get("txt_b1")->isEnabled());
+    EXPECT_TRUE(get("txt_d")->isEnabled() && text("Lbl_uf_trykk_0").isEmpty());
+    EXPECT_TRUE(prompter.messages.isEmpty());
 }
 
 TEST_F(MainWindowFlow, LeavingASpanBoxRecalculatesOrAsksForTheLengthOnce)
