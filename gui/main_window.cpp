@@ -252,7 +252,8 @@ void MainWindow::begin(const std::vector<DataFileNote>& notes, const std::option
     }
     if (project) {
         // A project that cannot be opened leaves the example beam, as it stands.
-        const std::filesystem::path path(command_line_path(*project));
+        const std::string name = command_line_path(*project);
+        const std::filesystem::path path(std::u8string(name.begin(), name.end()));
         if (auto failure = open_file(m_model, m_session, path, m_dialogs, m_recent)) {
             show_message(*failure);
         }

@@ -47,7 +47,7 @@ public:
     ~MainWindow() override;
 
     // The start after the window is shown: the notes on the data files, the
-    // project of the command line if any, and the one recalculation.
+    // project of the command line (UTF-8) if any, and the one recalculation.
     void begin(const std::vector<DataFileNote>& notes, const std::optional<std::string>& project);
 
     // How many recalculations have run, for the tests and the benchmarks.

@@ -18,7 +18,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
+#include <QStringList>
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -34,20 +36,27 @@ struct Arguments {
     std::optional<std::string> project;
 };
 
-std::optional<Arguments> parse(int argc, char** argv)
+// The arguments as Qt reads them, in the user's own letters on every platform.
+std::optional<Arguments> parse(const QStringList& arguments)
 {
     Arguments a;
-    for (int k = 1; k < argc; ++k) {
-        const std::string arg = argv[k];
-        if (arg == "--screenshots" && k + 1 < argc && !a.screenshots) {
-            a.screenshots = fs::path(argv[++k]);
-        } else if (!arg.starts_with("--") && !a.project) {
-            a.project = arg;
+    for (qsizetype k = 1; k < arguments.size(); ++k) {
+        const QString& arg = arguments[k];
+        if (arg == "--screenshots" && k + 1 < arguments.size() && !a.screenshots) {
+            a.screenshots = fs::path(arguments[++k].toStdWString());
+        } else if (!arg.startsWith("--") && !a.project) {
+            a.project = arg.toStdString();
         } else {
             return std::nullopt;
         }
     }
     return a;
+}
+
+bool wants_screenshots(int argc, char** argv)
+{
+    return std::any_of(argv + 1, argv + argc,
+                       [](const char* arg) { return std::string(arg) == "--screenshots"; });
 }
 
 int write_screenshot(QWidget& window, const fs::path& folder)
@@ -67,16 +76,17 @@ int write_screenshot(QWidget& window, const fs::path& folder)
 
 int main(int argc, char** argv)
 {
-    const std::optional<Arguments> args = parse(argc, argv);
-    if (!args) {
-        std::cerr << "usage: kvelder [--screenshots DIR] [PROJECT]\n";
-        return 2;
-    }
-    if (args->screenshots) {
+    // The platform is chosen before the application starts.
+    if (wants_screenshots(argc, argv)) {
         kvelder::choose_headless_platform();
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kvelder");
+    const std::optional<Arguments> args = parse(QApplication::arguments());
+    if (!args) {
+        std::cerr << "usage: kvelder [--screenshots DIR] [PROJECT]\n";
+        return 2;
+    }
 
     auto model = std::make_unique<kvelder::Model>();
     const fs::path data = kvelder::user_data_dir();
