@@ -1,36 +1,24 @@
-// Factoring of the load cases into a combination, and the envelopes over the
-// states of a run.
+// Factoring of the load cases into a combination, the load patterns of Q1, and
+// the trace files of a run.
 
-#include "combination/envelope.h"
+#include "analysis/points.h"
+#include "combination/patterns.h"
+#include "files/byte_record.h"
+#include "recalc/run_analysis.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <vector>
 
 namespace kvelder::test {
 namespace {
 
-TEST(EnvelopeRule, KeepsTheLargestOfEachSignAndIgnoresZero)
-{
-    float max = 0, min = 0;
-    for (const float c : {-2.0F, -1.0F, 0.0F, -0.0F}) {
-        update_envelope(c, max, min);
-    }
-    EXPECT_EQ(max, 0.0F); // never positive
-    for (const float c : {2.0F, -1.0F, 3.0F, -4.0F, 1.0F, -0.5F, 0.0F}) {
-        update_envelope(c, max, min);
-    }
-    EXPECT_EQ(max, 3.0F);
-    EXPECT_EQ(min, -4.0F);
-
-    // The plain copy of a single combination takes the value without comparing.
-    copy_into_envelope(2.0F, max, min);
-    EXPECT_EQ(max, 2.0F);
-    EXPECT_EQ(min, -4.0F);
-    copy_into_envelope(0.0F, max, min);
-    EXPECT_EQ(min, 0.0F);
-}
+namespace fs = std::filesystem;
 
 std::unique_ptr<Model> factored_beam(const char* rule)
 {
@@ -48,7 +36,7 @@ std::unique_ptr<Model> factored_beam(const char* rule)
     return m;
 }
 
-TEST(Combination, TheExpressionInForceChoosesTheForceFactors)
+TEST(Combination, TheExpressionChoosesTheForceFactorsAndCreepScalesOnlyTheLongTermDeflection)
 {
     auto a = factored_beam("610a");
     auto b = factored_beam("610b");
@@ -59,144 +47,123 @@ TEST(Combination, TheExpressionInForceChoosesTheForceFactors)
     EXPECT_EQ(other->C_R, b->C_R);
     // Deflections do not depend on the expression.
     EXPECT_EQ(a->C_W, b->C_W);
-}
 
-TEST(Combination, DeflectionFactorsScaleEachCaseAndTheInstantSumIsPlain)
-{
-    auto m = factored_beam("610a");
     const int mid = 3 + 24; // x = 25 dx = L / 2
-    ASSERT_FLOAT_EQ(m->xl_s(1, mid), 2.5F);
+    ASSERT_FLOAT_EQ(a->xl_s(1, mid), 2.5F);
     const double w = -1000 * 5.0 * 625 / (384 * kEI); // per kN/m
-    EXPECT_NEAR(m->C_Winst(1, mid), 6 * w, 1e-5 * std::fabs(w));
-    EXPECT_NEAR(m->C_W(1, mid), (1.6 * 2 + 1.3 * 4) * w, 1e-5 * std::fabs(w));
-    // Results take hogging as positive: the span sags.
-    EXPECT_LT(m->C_M(1, mid), 0.0F);
+    EXPECT_NEAR(a->C_Winst(1, mid), 6 * w, 1e-5 * std::fabs(w));
+    EXPECT_NEAR(a->C_W(1, mid), (1.6 * 2 + 1.3 * 4) * w, 1e-5 * std::fabs(w));
 }
 
-TEST(Combination, EveryPatternStartsItsDeflectionSumsAfresh)
+std::vector<int> spans_of(int nf, int p)
 {
-    // With unit deflection factors the two sums agree in every pattern, the last included.
-    auto m = make_beam({4.0F, 5.0F, 3.0F});
-    m->loadcomb_option = 2;
-    add_uniform(m->G, 2, 2.0F);
-    add_uniform(m->Q1, 1, 3.0F);
-    add_point(m->Q2, 3, 4.0F, 1.0F);
-    recalculate(*m);
-    ASSERT_EQ(m->npatterns, 8);
-    for (int i = 1; i <= 3; ++i) {
-        for (int j = 1; j <= m->nxtot_s(i); ++j) {
-            EXPECT_FLOAT_EQ(m->C_Winst(i, j), m->C_W(i, j)) << "span " << i << ", point " << j;
+    const auto s = Q1_pattern(nf, p);
+    return {s.begin(), s.end()};
+}
+
+// The first pattern has no Q1, the second has it everywhere, then each span
+// alone, then the irregular ones in their order; every pattern is a different
+// set of spans on the beam.
+TEST(Patterns, OfEveryBeamInTheirOrder)
+{
+    EXPECT_EQ(pattern_count(1), 1);
+    const int counts[] = {4, 8, 13, 17};
+    for (int nf = 2; nf <= 5; ++nf) {
+        ASSERT_EQ(pattern_count(nf), counts[nf - 2]);
+        EXPECT_TRUE(spans_of(nf, 1).empty());
+        std::vector<int> all;
+        for (int i = 1; i <= nf; ++i) {
+            all.push_back(i);
+            EXPECT_EQ(spans_of(nf, 2 + i), std::vector<int>{i}) << nf << " spans";
+        }
+        EXPECT_EQ(spans_of(nf, 2), all);
+        std::set<std::set<int>> seen;
+        for (int p = 1; p <= pattern_count(nf); ++p) {
+            const auto s = spans_of(nf, p);
+            for (const int span : s) {
+                EXPECT_TRUE(span >= 1 && span <= nf) << nf << " spans, pattern " << p;
+            }
+            EXPECT_TRUE(seen.insert({s.begin(), s.end()}).second) << nf << " spans, pattern " << p;
         }
     }
+    EXPECT_EQ(spans_of(3, 6), (std::vector<int>{1, 3}));
+    EXPECT_EQ(spans_of(4, 12), (std::vector<int>{1, 2, 4}));
+    EXPECT_EQ(spans_of(4, 13), (std::vector<int>{3, 4, 1}));
+    // Every second span from span 1 up to span 4: span 5 is not in it.
+    EXPECT_EQ(spans_of(5, 8), (std::vector<int>{1, 3}));
+    EXPECT_EQ(spans_of(5, 9), (std::vector<int>{2, 4}));
+    EXPECT_EQ(spans_of(5, 16), (std::vector<int>{4, 5, 2}));
+    EXPECT_EQ(spans_of(5, 17), (std::vector<int>{2, 3, 5}));
 }
 
-TEST(Envelopes, PartialSumsOfAPatternCountAsStatesOfTheBeam)
+ByteRecord read_record(const fs::path& file, std::size_t length, int number)
 {
-    // G pulls down, Q2 lifts: the largest sagging comes from G alone, before Q2 is added.
-    auto m = make_beam({4.0F, 4.0F});
+    std::ifstream in(file, std::ios::binary);
+    ByteRecord r(length);
+    in.seekg(static_cast<std::streamoff>(length) * (number - 1));
+    in.read(reinterpret_cast<char*>(r.data()), static_cast<std::streamsize>(length));
+    EXPECT_TRUE(in) << file << " record " << number;
+    return r;
+}
+
+std::unique_ptr<Model> two_span_beam()
+{
+    auto m = make_beam({4.0F, 6.0F}, kBuiltIn, kSimple);
     m->loadcomb_option = 2;
-    add_uniform(m->G, 1, 10.0F);
-    add_uniform(m->G, 2, 10.0F);
-    add_uniform(m->Q2, 1, -8.0F);
-    add_uniform(m->Q2, 2, -8.0F);
-    recalculate(*m);
-
-    auto g_alone = make_beam({4.0F, 4.0F});
-    add_uniform(g_alone->G, 1, 10.0F);
-    add_uniform(g_alone->G, 2, 10.0F);
-    recalculate(*g_alone);
-
-    EXPECT_EQ(m->M_min, g_alone->M_min);
-    EXPECT_EQ(m->R_max, g_alone->R_max);
+    add_uniform(m->G, 1, 2.0F);
+    add_uniform(m->Q1, 2, 3.0F);
+    add_point(m->Q1, 1, 5.0F, 1.7F);
+    add_moment(m->Q2, 2, 4.0F, 2.0F);
+    return m;
 }
 
-TEST(Envelopes, TotalRunCopiesItsOneCombination)
+void run_in(Model& m, const fs::path& folder)
 {
-    auto m = make_beam({4.0F, 6.0F});
-    add_uniform(m->G, 1, 3.0F);
-    add_uniform(m->Q1, 2, 5.0F);
-    add_point(m->Q2, 1, 4.0F, 1.0F);
-    recalculate(*m);
+    build_calculation_grids(m);
+    run_analysis(m, folder);
+}
 
-    for (int i = 1; i <= 2; ++i) {
-        for (int j = 1; j <= m->nxtot_s(i); ++j) {
-            EXPECT_TRUE(m->M_max(i, j) == 0.0F || m->M_min(i, j) == 0.0F);
-            EXPECT_EQ(m->M_max(i, j) + m->M_min(i, j), m->C_M(i, j));
-            EXPECT_EQ(m->V_max(i, j) + m->V_min(i, j), m->C_V(i, j));
-            EXPECT_EQ(m->W_max(i, j) + m->W_min(i, j), m->C_W(i, j));
-        }
-    }
+TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
+{
+    const fs::path folder = scratch_folder() / "trace";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    auto three = make_beam({3.0F, 4.0F, 5.0F});
+    three->loadcomb_option = 2;
+    add_uniform(three->Q1, 3, 1.0F);
+    run_in(*three, folder);
+
+    // Fewer spans and patterns: the older records and span 3 stay.
+    auto m = two_span_beam();
+    run_in(*m, folder);
+    ASSERT_EQ(m->npatterns, 4);
+    EXPECT_EQ(fs::file_size(folder / "Resultater"), 8u * 28040u);
+    const ByteRecord g = read_record(folder / "Geometri", 9398, 1);
+    EXPECT_EQ(g.get_i16(0), 2);
+    EXPECT_EQ(g.get_f32(4 + 12), 5.0F);
+
+    // A total run writes the pattern count of the run before.
+    m->loadcomb_option = 1;
+    run_in(*m, folder);
     EXPECT_EQ(m->npatterns, 1);
+    EXPECT_EQ(read_record(folder / "Geometri", 9398, 1).get_i16(2), 4);
+    run_in(*m, folder);
+    EXPECT_EQ(read_record(folder / "Geometri", 9398, 1).get_i16(2), 1);
 }
 
-TEST(Envelopes, PatternedEnvelopeCoversTheWorstPlacementOfQ1)
+TEST(ScratchFiles, AFolderThatCannotBeWrittenCostsTheCalculationNothing)
 {
-    // The largest support moment over support 2 of three spans needs Q1 on spans 1 and 2,
-    // the largest sagging and deflection in span 2 need it on span 2 alone.
-    auto m = make_beam({5.0F, 5.0F, 5.0F});
-    m->loadcomb_option = 2;
-    for (int i = 1; i <= 3; ++i) {
-        add_uniform(m->G, i, 1.0F);
-        add_uniform(m->Q1, i, 4.0F);
-    }
-    recalculate(*m);
+    auto traced = two_span_beam();
+    run_in(*traced, scratch_folder());
 
-    auto spans_1_2 = make_beam({5.0F, 5.0F, 5.0F});
-    auto span_2 = make_beam({5.0F, 5.0F, 5.0F});
-    for (int i = 1; i <= 3; ++i) {
-        add_uniform(spans_1_2->G, i, 1.0F);
-        add_uniform(span_2->G, i, 1.0F);
-    }
-    add_uniform(spans_1_2->Q1, 1, 4.0F);
-    add_uniform(spans_1_2->Q1, 2, 4.0F);
-    add_uniform(span_2->Q1, 2, 4.0F);
-    recalculate(*spans_1_2);
-    recalculate(*span_2);
+    // A regular file where the folder should be: nothing can be created below it.
+    const fs::path blocked = scratch_folder() / "not-a-folder";
+    std::ofstream(blocked) << "x";
+    auto untraced = two_span_beam();
+    run_in(*untraced, blocked);
 
-    EXPECT_EQ(m->M_max(1, 2), spans_1_2->M_max(1, 2));
-    const int mid = 3 + 24;
-    EXPECT_EQ(m->M_min(2, mid), span_2->M_min(2, mid));
-    EXPECT_EQ(m->W_min(2, mid), span_2->W_min(2, mid)); // and so the largest deflection there
-    EXPECT_LT(m->W_min(2, mid), 0.0F);
-    EXPECT_GT(m->M_max(1, 2), 0.0F);
-}
-
-TEST(Envelopes, AQ1MomentOnASupportActsInThePatternsOfItsSpan)
-{
-    // A moment at the end of span 1 stands on node 2: only the patterns that load
-    // span 1 carry it, and the other patterns add nothing to the envelope.
-    const auto beam = [](int option) {
-        auto m = make_beam({4.0F, 6.0F});
-        m->loadcomb_option = static_cast<std::int16_t>(option);
-        add_moment(m->Q1, 1, 8.0F, 4.0F);
-        recalculate(*m);
-        return m;
-    };
-    const auto patterned = beam(2);
-    const auto total = beam(1);
-    EXPECT_EQ(patterned->npatterns, 4);
-    EXPECT_EQ(patterned->M_max, total->M_max);
-    EXPECT_EQ(patterned->M_min, total->M_min);
-    EXPECT_EQ(patterned->W_min, total->W_min);
-    EXPECT_NE(total->M_max(1, 2), 0.0F);
-}
-
-TEST(Envelopes, WithoutVariableLoadsEveryPatternCarriesTheReactionsOfG)
-{
-    const auto beam = [](int option) {
-        auto m = make_beam({4.0F, 6.0F}, kBuiltIn, kSimple);
-        m->loadcomb_option = static_cast<std::int16_t>(option);
-        add_uniform(m->G, 1, 3.0F);
-        add_point(m->G, 2, 5.0F, 2.0F);
-        recalculate(*m);
-        return m;
-    };
-    const auto patterned = beam(2);
-    const auto total = beam(1);
-    EXPECT_EQ(patterned->R_max, total->R_max);
-    EXPECT_EQ(patterned->MR_max, total->MR_max);
-    EXPECT_EQ(patterned->MR_min, total->MR_min);
-    EXPECT_NE(total->MR_max(1) - total->MR_min(1), 0.0F); // the built-in end holds a moment
+    EXPECT_TRUE(*untraced == *traced);
+    EXPECT_TRUE(fs::is_regular_file(blocked));
 }
 
 } // namespace

