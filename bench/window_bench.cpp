@@ -21,23 +21,12 @@ namespace {
 using namespace kvelder;
 
 // Answers nothing: a benchmark has no one to ask.
-class SilentPrompter final : public Prompter {
-public:
-    void message(QWidget*, const QString&, const QString&, bool) override { ++messages; }
-    Answer save_changes(QWidget*, const QString&, const QString&) override { return Answer::Cancel; }
-    bool yes_no(QWidget*, const QString&, const QString&) override { return false; }
-    std::optional<QString> open_file_name(QWidget*, const QString&) override { return std::nullopt; }
-    std::optional<QString> save_file_name(QWidget*, const QString&) override { return std::nullopt; }
-    bool open_document(const QString&) override { return false; }
-    int messages = 0;
-};
-
 void SpanEditToRepaint(benchmark::State& state)
 {
     auto m = bench::worst_case();
     LoadDialogs dialogs = load_dialogs(*m);
     RecentFilesInMemory recent;
-    SilentPrompter prompter;
+    UnattendedPrompter prompter;
     const std::filesystem::path scratch = std::filesystem::temp_directory_path() / "kvelder-bench";
     std::filesystem::create_directories(scratch);
     MainWindow window(*m, dialogs, prompter, recent, {{}, scratch});
@@ -53,7 +42,7 @@ void SpanEditToRepaint(benchmark::State& state)
         box->commit();
         window.repaint();
     }
-    if (prompter.messages != 0 || window.runs() - runs_before != static_cast<int>(state.iterations())) {
+    if (prompter.messages() != 0 || window.runs() - runs_before != static_cast<int>(state.iterations())) {
         state.SkipWithError("the beam fails its checks");
     }
 }

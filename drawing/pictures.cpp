@@ -3,6 +3,8 @@
 #include "drawing/beam_plot.h"
 #include "drawing/result_plot.h"
 
+#include <memory>
+
 namespace kvelder {
 
 void PlotAllLoads(PlotSurface& egenlast, PlotSurface& nyttelast, PlotSurface& nyttelast_2, const Model& m)
@@ -34,6 +36,25 @@ void PlotAll(const ScreenSurfaces& s, const Model& m)
     s.result.Cls();
     s.disp.Cls();
     PlotResults(s.result, s.disp, m);
+}
+
+PictureImages draw_pictures(const Model& m, const std::array<QSize, std::size(kPictures)>& sizes, qreal pixel_ratio)
+{
+    PictureImages images;
+    for (std::size_t k = 0; k < images.size(); ++k) {
+        images[k] = QImage(sizes[k].expandedTo(QSize(1, 1)) * pixel_ratio, QImage::Format_RGB32);
+        images[k].setDevicePixelRatio(pixel_ratio);
+        images[k].fill(Qt::white);
+    }
+    {
+        // The surfaces end their painting when they go, before the images leave.
+        std::array<std::unique_ptr<PlotSurface>, std::size(kPictures)> s;
+        for (std::size_t k = 0; k < images.size(); ++k) {
+            s[k] = std::make_unique<PlotSurface>(images[k]);
+        }
+        PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m);
+    }
+    return images;
 }
 
 } // namespace kvelder

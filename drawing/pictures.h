@@ -5,6 +5,12 @@
 #include "model/model.h"
 #include "model/picture.h"
 
+#include <QImage>
+#include <QSize>
+
+#include <array>
+#include <cstddef>
+
 namespace kvelder {
 
 // The three load pictures from a clean start: the beam to scale with G, then
@@ -22,5 +28,12 @@ struct ScreenSurfaces {
     PlotSurface& disp;
 };
 void PlotAll(const ScreenSurfaces& s, const Model& m);
+
+using PictureImages = std::array<QImage, std::size(kPictures)>;
+
+// The six pictures drawn into white images, in the order of kPictures, each of
+// its logical size at `pixel_ratio` device pixels a unit.
+PictureImages draw_pictures(const Model& m, const std::array<QSize, std::size(kPictures)>& sizes,
+                            qreal pixel_ratio = 1);
 
 } // namespace kvelder

@@ -1,5 +1,6 @@
 #include "gui/factor_panel.h"
 
+#include "gui/named.h"
 #include "gui/workspace.h"
 #include "ui/result_columns.h"
 
@@ -9,16 +10,6 @@
 #include <QVBoxLayout>
 
 namespace kvelder {
-namespace {
-
-QLabel* label(const QString& name, QWidget* parent, const QString& text = {})
-{
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    return l;
-}
-
-} // namespace
 
 FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
 {
@@ -27,16 +18,14 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
     column->setSpacing(2);
 
     const auto value = [this](const char* name, QWidget* owner) {
-        QLabel* l = label(name, owner);
+        QLabel* l = named<QLabel>(name, owner);
         l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_values[name] = l;
         return l;
     };
 
-    auto* classes = new QGroupBox(this);
-    classes->setObjectName("Fra_Fak");
-    auto* grid = new QGridLayout(classes);
-    grid->setContentsMargins(4, 2, 4, 2);
+    auto* classes = named<QGroupBox>("Fra_Fak", this);
+    auto* grid = frame_layout<QGridLayout>(classes);
     grid->setVerticalSpacing(0);
     // Service class, load duration and ksys on the left, the factors on the right.
     const std::array<std::pair<const char*, const char*>, 3> left{
@@ -47,34 +36,30 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
                                                                     {"Lbl_kdef1", "Lbl_kdef2"},
                                                                     {"Lbl_khy1", "Lbl_khy2"}}};
     for (std::size_t k = 0; k < left.size(); ++k) {
-        grid->addWidget(label(left[k].first, classes), static_cast<int>(k), 0);
+        grid->addWidget(named<QLabel>(left[k].first, classes), static_cast<int>(k), 0);
         if (k == 1) {
-            grid->addWidget(label(left[k].second, classes), 1, 1); // the duration in words
+            grid->addWidget(named<QLabel>(left[k].second, classes), 1, 1); // the duration in words
         } else {
             grid->addWidget(value(left[k].second, classes), static_cast<int>(k), 1);
         }
     }
     for (std::size_t k = 0; k < right.size(); ++k) {
-        grid->addWidget(label(right[k].first, classes), static_cast<int>(k), 2);
+        grid->addWidget(named<QLabel>(right[k].first, classes), static_cast<int>(k), 2);
         grid->addWidget(value(right[k].second, classes), static_cast<int>(k), 3);
     }
     column->addWidget(classes);
 
-    auto* psi = new QGroupBox(this);
-    psi->setObjectName("Fra_psi0");
-    auto* psi_grid = new QGridLayout(psi);
-    psi_grid->setContentsMargins(4, 2, 4, 2);
+    auto* psi = named<QGroupBox>("Fra_psi0", this);
+    auto* psi_grid = frame_layout<QGridLayout>(psi);
     psi_grid->setVerticalSpacing(0);
-    psi_grid->addWidget(label("Lbl_psi0_1_1", psi), 0, 0);
+    psi_grid->addWidget(named<QLabel>("Lbl_psi0_1_1", psi), 0, 0);
     psi_grid->addWidget(value("Lbl_psi0_1_2", psi), 0, 1);
-    psi_grid->addWidget(label("Lbl_psi0_2_1", psi), 1, 0);
+    psi_grid->addWidget(named<QLabel>("Lbl_psi0_2_1", psi), 1, 0);
     psi_grid->addWidget(value("Lbl_psi0_2_2", psi), 1, 1);
     column->addWidget(psi);
 
-    auto* strengths = new QGroupBox(this);
-    strengths->setObjectName("Fra_spenning");
-    auto* s_grid = new QGridLayout(strengths);
-    s_grid->setContentsMargins(4, 2, 4, 2);
+    auto* strengths = named<QGroupBox>("Fra_spenning", this);
+    auto* s_grid = frame_layout<QGridLayout>(strengths);
     s_grid->setVerticalSpacing(0);
     // Characteristic strength on the left, design strength on the right.
     const std::array<std::array<const char*, 4>, 3> rows{
@@ -83,9 +68,9 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
          {"Lbl_fc90k1", "Lbl_fc90k2", "Lbl_fc90d1", "Lbl_fc90d2"}}};
     for (std::size_t r = 0; r < rows.size(); ++r) {
         const int row = static_cast<int>(r);
-        s_grid->addWidget(label(rows[r][0], strengths), row, 0);
+        s_grid->addWidget(named<QLabel>(rows[r][0], strengths), row, 0);
         s_grid->addWidget(value(rows[r][1], strengths), row, 1);
-        s_grid->addWidget(label(rows[r][2], strengths), row, 2);
+        s_grid->addWidget(named<QLabel>(rows[r][2], strengths), row, 2);
         s_grid->addWidget(value(rows[r][3], strengths), row, 3);
     }
     column->addWidget(strengths);

@@ -1,5 +1,6 @@
 #include "gui/load_panel.h"
 
+#include "gui/named.h"
 #include "gui/workspace.h"
 #include "ui/control_rules.h"
 #include "ui/edits.h"
@@ -14,16 +15,6 @@
 #include <QVBoxLayout>
 
 namespace kvelder {
-namespace {
-
-template <typename W> W* named(const char* name, QWidget* parent)
-{
-    auto* w = new W(parent);
-    w->setObjectName(name);
-    return w;
-}
-
-} // namespace
 
 LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
 {
@@ -32,8 +23,7 @@ LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
     column->setSpacing(2);
 
     auto* loads = named<QGroupBox>("frmLoad", this);
-    auto* loads_grid = new QGridLayout(loads);
-    loads_grid->setContentsMargins(4, 2, 4, 2);
+    auto* loads_grid = frame_layout<QGridLayout>(loads);
     int col = 0;
     for (const char* name : {"Cmdegenlast", "Cmdnyttelast", "Cmdnyttelast_2"}) {
         auto* button = named<QPushButton>(name, loads);
@@ -45,8 +35,7 @@ LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
     column->addWidget(loads);
 
     auto* comb = named<QGroupBox>("fraloadcomb", this);
-    auto* comb_grid = new QGridLayout(comb);
-    comb_grid->setContentsMargins(4, 2, 4, 2);
+    auto* comb_grid = frame_layout<QGridLayout>(comb);
     m_total = named<QRadioButton>("Opt_loadcomb1", comb);
     m_patterns = named<QRadioButton>("Opt_loadcomb2", comb);
     m_patterns_help = named<QPushButton>("Cmd_loadcomb2", comb);
@@ -56,8 +45,7 @@ LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
     column->addWidget(comb);
 
     auto* rule = named<QGroupBox>("Fra_loadcomb_a_b", this);
-    auto* rule_row = new QHBoxLayout(rule);
-    rule_row->setContentsMargins(4, 2, 4, 2);
+    auto* rule_row = frame_layout<QHBoxLayout>(rule);
     m_610a = named<QRadioButton>("Opt_610a", rule);
     m_610b = named<QRadioButton>("Opt_610b", rule);
     auto* rule_help = named<QPushButton>("Cmd_610a_b", rule);

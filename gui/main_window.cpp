@@ -247,6 +247,7 @@ void MainWindow::begin(const std::vector<DataFileNote>& notes, const std::option
     m_model.loading_flag = kTrue;
     m_session.current_dir = std::filesystem::current_path();
     fill();
+    refresh(); // the notes come over the window in the beam's language
     for (const DataFileNote& note : notes) {
         show_message(data_file_message(m_model.language, note));
     }
@@ -332,26 +333,16 @@ void MainWindow::fill()
     m_id->setText(qs(m_model.id_s));
     m_spans->fill();
     m_section->fill();
-    refresh();
 }
 
 void MainWindow::redraw_pictures()
 {
     m_redraw_due = false;
-    std::array<QImage, 6> images;
-    for (std::size_t k = 0; k < images.size(); ++k) {
-        const QSize size = m_pictures[k]->size().expandedTo(QSize(1, 1));
-        images[k] = QImage(size * m_pictures[k]->devicePixelRatio(), QImage::Format_RGB32);
-        images[k].setDevicePixelRatio(m_pictures[k]->devicePixelRatio());
-        images[k].fill(Qt::white);
+    std::array<QSize, std::size(kPictures)> sizes;
+    for (std::size_t k = 0; k < sizes.size(); ++k) {
+        sizes[k] = m_pictures[k]->size();
     }
-    {
-        std::array<std::unique_ptr<PlotSurface>, 6> s;
-        for (std::size_t k = 0; k < images.size(); ++k) {
-            s[k] = std::make_unique<PlotSurface>(images[k]);
-        }
-        PlotAll({*s[0], *s[1], *s[2], *s[3], *s[4], *s[5]}, m_model);
-    }
+    PictureImages images = draw_pictures(m_model, sizes, m_pictures[0]->devicePixelRatio());
     for (std::size_t k = 0; k < images.size(); ++k) {
         if (m_blank.count(kPictures[k]) != 0) {
             images[k].fill(Qt::white);
@@ -389,13 +380,8 @@ bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& a
         const GuardScope guard(m_guard);
         result = apply();
         box.setText(result.text);
-        InputBox* target = result.focus != nullptr ? result.focus : &box;
         if (result.failure) {
-            target->set_failed(true);
-            target->setFocus();
-            show_message(*result.failure);
-            target->setFocus();
-            target->selectAll();
+            fail_box(result.focus != nullptr ? *result.focus : box, *result.failure);
             return false;
         }
         box.set_failed(false);
@@ -404,6 +390,16 @@ bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& a
         recalculate();
     }
     return true;
+}
+
+void MainWindow::fail_box(InputBox& box, const Message& message)
+{
+    const GuardScope guard(m_guard);
+    box.set_failed(true);
+    box.setFocus();
+    show_message(message);
+    box.setFocus();
+    box.selectAll();
 }
 
 bool MainWindow::commit_focused_box()
@@ -441,7 +437,6 @@ void MainWindow::load(const std::function<std::optional<Message>()>& loader)
     recalculate();
     m_model.loading_flag = kFalse;
     mark_unchanged(m_model, m_session);
-    refresh();
 }
 
 void MainWindow::file_new()

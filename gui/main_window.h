@@ -61,6 +61,7 @@ public:
     void refresh() override;
     void blank(Picture picture) override { m_blank.insert(picture); }
     void show_message(const Message& message) override;
+    void fail_box(InputBox& box, const Message& message) override;
     bool run_box_rule(InputBox& box, const std::function<BoxResult()>& apply,
                       bool recalculate = true) override;
     bool filling() const override { return is_true(m_model.loading_flag); }
@@ -77,6 +78,7 @@ protected:
 private:
     void build_menu();
     void apply_captions();
+    // Puts the beam's texts into the boxes; the panels follow at the next refresh.
     void fill();
     void show_recent_files();
     // The box being edited takes its value first, as leaving it would.

@@ -54,4 +54,12 @@ bool DialogPrompter::open_document(const QString& path)
     return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
+void UnattendedPrompter::message(QWidget*, const QString& title, const QString& text, bool)
+{
+    ++m_messages;
+    if (m_log != nullptr) {
+        *m_log << title.toStdString() << ": " << text.toStdString() << '\n';
+    }
+}
+
 } // namespace kvelder

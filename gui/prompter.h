@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <optional>
+#include <ostream>
 
 class QWidget;
 
@@ -36,6 +37,24 @@ public:
     std::optional<QString> open_file_name(QWidget* parent, const QString& folder) override;
     std::optional<QString> save_file_name(QWidget* parent, const QString& initial) override;
     bool open_document(const QString& path) override;
+};
+
+// Answers no one sits at the window to give: every question is cancelled and
+// every message is counted and, when a log is given, written to it.
+class UnattendedPrompter final : public Prompter {
+public:
+    explicit UnattendedPrompter(std::ostream* log = nullptr) : m_log(log) {}
+    void message(QWidget* parent, const QString& title, const QString& text, bool warning) override;
+    Answer save_changes(QWidget*, const QString&, const QString&) override { return Answer::Cancel; }
+    bool yes_no(QWidget*, const QString&, const QString&) override { return false; }
+    std::optional<QString> open_file_name(QWidget*, const QString&) override { return std::nullopt; }
+    std::optional<QString> save_file_name(QWidget*, const QString&) override { return std::nullopt; }
+    bool open_document(const QString&) override { return false; }
+    int messages() const { return m_messages; }
+
+private:
+    std::ostream* m_log;
+    int m_messages = 0;
 };
 
 } // namespace kvelder

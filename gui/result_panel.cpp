@@ -1,5 +1,6 @@
 #include "gui/result_panel.h"
 
+#include "gui/named.h"
 #include "gui/workspace.h"
 #include "ui/result_columns.h"
 
@@ -15,18 +16,35 @@ namespace {
 
 QLabel* label(const QString& name, QWidget* parent)
 {
-    auto* l = new QLabel(parent);
-    l->setObjectName(name);
+    auto* l = named<QLabel>(name, parent);
     l->setAlignment(Qt::AlignCenter);
     return l;
 }
 
 QLabel* cell(const char* base, std::size_t index, QWidget* parent)
 {
-    QLabel* l = label(QString::fromLatin1(base) + QLatin1Char('_') + QString::number(index), parent);
+    QLabel* l = label(indexed(base, index), parent);
     l->setAutoFillBackground(true);
     l->setMinimumWidth(34);
     return l;
+}
+
+// The heads of a table in row `head_row`, then a row of cells for every
+// element of `out`.
+template <std::size_t R, std::size_t C>
+void add_table(QGridLayout* grid, QWidget* frame, const std::array<const char*, C>& heads,
+               const std::array<const char*, C>& cells, int head_row,
+               std::array<std::array<QLabel*, C>, R>& out)
+{
+    grid->setSpacing(1);
+    for (std::size_t c = 0; c < C; ++c) {
+        grid->addWidget(label(heads[c], frame), head_row, static_cast<int>(c));
+        for (std::size_t r = 0; r < R; ++r) {
+            out[r][c] = cell(cells[c], r, frame);
+            grid->addWidget(out[r][c], head_row + 1 + static_cast<int>(r), static_cast<int>(c));
+        }
+    }
+    grid->setRowStretch(head_row + 1 + static_cast<int>(R), 1);
 }
 
 } // namespace
@@ -37,50 +55,25 @@ ResultPanel::ResultPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
 
-    auto* sections = new QGroupBox(this);
-    sections->setObjectName("Fracodesjekk");
-    auto* grid = new QGridLayout(sections);
-    grid->setContentsMargins(4, 2, 4, 2);
-    grid->setSpacing(1);
+    auto* sections = named<QGroupBox>("Fracodesjekk", this);
+    auto* grid = frame_layout<QGridLayout>(sections);
     grid->addWidget(label("Lblcontrmom", sections), 0, 1, 1, 2);
     grid->addWidget(label("Lblcontrtau", sections), 0, 3, 1, 2);
     grid->addWidget(label("Lblcontrvipp", sections), 0, 5);
-    const std::array<const char*, 6> heads{"Lblbj", "Lblmxl", "Lblmom", "Lbltxl", "Lbltau", "Lblvipp"};
-    const std::array<const char*, 6> cells{"lbl_bj", "lbl_mxl", "lbl_mom", "Lbl_txl", "lbl_tau", "lbl_vipp"};
-    for (std::size_t c = 0; c < heads.size(); ++c) {
-        grid->addWidget(label(heads[c], sections), 1, static_cast<int>(c));
-        for (std::size_t s = 0; s < m_spans.size(); ++s) {
-            m_spans[s][c] = cell(cells[c], s, sections);
-            grid->addWidget(m_spans[s][c], static_cast<int>(s) + 2, static_cast<int>(c));
-        }
-    }
-    grid->setRowStretch(7, 1);
+    add_table<5, 6>(grid, sections, {"Lblbj", "Lblmxl", "Lblmom", "Lbltxl", "Lbltau", "Lblvipp"},
+                    {"lbl_bj", "lbl_mxl", "lbl_mom", "Lbl_txl", "lbl_tau", "lbl_vipp"}, 1, m_spans);
     row->addWidget(sections, 3);
 
-    auto* bearing = new QGroupBox(this);
-    bearing->setObjectName("Fra_opplegg_last");
-    auto* b_grid = new QGridLayout(bearing);
-    b_grid->setContentsMargins(4, 2, 4, 2);
-    b_grid->setSpacing(1);
-    const std::array<const char*, 3> b_heads{"Lbl_opp_nr1", "Lbl_kc901", "Lbl_uf_trykk1"};
-    const std::array<const char*, 3> b_cells{"Lbl_opp_nr", "Lbl_kc90", "Lbl_uf_trykk"};
-    for (std::size_t c = 0; c < b_heads.size(); ++c) {
-        b_grid->addWidget(label(b_heads[c], bearing), 0, static_cast<int>(c));
-        for (std::size_t n = 0; n < m_nodes.size(); ++n) {
-            m_nodes[n][c] = cell(b_cells[c], n, bearing);
-            b_grid->addWidget(m_nodes[n][c], static_cast<int>(n) + 1, static_cast<int>(c));
-        }
-    }
-    b_grid->setRowStretch(7, 1);
+    auto* bearing = named<QGroupBox>("Fra_opplegg_last", this);
+    auto* b_grid = frame_layout<QGridLayout>(bearing);
+    add_table<6, 3>(b_grid, bearing, {"Lbl_opp_nr1", "Lbl_kc901", "Lbl_uf_trykk1"},
+                    {"Lbl_opp_nr", "Lbl_kc90", "Lbl_uf_trykk"}, 0, m_nodes);
     row->addWidget(bearing, 2);
 
-    auto* along = new QGroupBox(this);
-    along->setObjectName("Frakrefter");
-    auto* buttons = new QVBoxLayout(along);
-    buttons->setContentsMargins(4, 2, 4, 2);
+    auto* along = named<QGroupBox>("Frakrefter", this);
+    auto* buttons = frame_layout<QVBoxLayout>(along);
     for (const char* name : {"Cmd_grid_krefter", "cmd_detres"}) {
-        auto* button = new QPushButton(along);
-        button->setObjectName(name);
+        auto* button = named<QPushButton>(name, along);
         button->setEnabled(false); // the result grid and detailed results come later
         buttons->addWidget(button);
     }

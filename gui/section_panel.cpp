@@ -2,6 +2,7 @@
 
 #include "files/code_page.h"
 #include "gui/input_box.h"
+#include "gui/named.h"
 #include "gui/workspace.h"
 #include "ui/box_texts.h"
 #include "ui/captions.h"
@@ -22,24 +23,9 @@
 namespace kvelder {
 namespace {
 
-QGroupBox* frame(const char* name, QWidget* parent)
-{
-    auto* box = new QGroupBox(parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QLabel* label(const char* name, QWidget* parent)
-{
-    auto* l = new QLabel(parent);
-    l->setObjectName(name);
-    return l;
-}
-
 QPushButton* later_button(const char* name, QWidget* parent)
 {
-    auto* b = new QPushButton(parent);
-    b->setObjectName(name);
+    auto* b = named<QPushButton>(name, parent);
     b->setEnabled(false); // its form comes with the remaining dialogs
     return b;
 }
@@ -72,34 +58,26 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
 
-    auto* beam = frame("Fra_beam", this);
-    auto* beam_grid = new QGridLayout(beam);
-    beam_grid->setContentsMargins(4, 2, 4, 2);
-    m_family = new QComboBox(beam);
-    m_family->setObjectName("cboProfType");
-    m_material = new QComboBox(beam);
-    m_material->setObjectName("cboMat");
-    beam_grid->addWidget(label("lblBeamType", beam), 0, 0);
+    auto* beam = named<QGroupBox>("Fra_beam", this);
+    auto* beam_grid = frame_layout<QGridLayout>(beam);
+    m_family = named<QComboBox>("cboProfType", beam);
+    m_material = named<QComboBox>("cboMat", beam);
+    beam_grid->addWidget(named<QLabel>("lblBeamType", beam), 0, 0);
     beam_grid->addWidget(m_family, 0, 1);
-    beam_grid->addWidget(label("lblMaterial", beam), 1, 0);
+    beam_grid->addWidget(named<QLabel>("lblMaterial", beam), 1, 0);
     beam_grid->addWidget(m_material, 1, 1);
     column->addWidget(beam);
 
-    auto* dims = frame("frmDimension", this);
-    auto* dims_grid = new QGridLayout(dims);
-    dims_grid->setContentsMargins(4, 2, 4, 2);
+    auto* dims = named<QGroupBox>("frmDimension", this);
+    auto* dims_grid = frame_layout<QGridLayout>(dims);
     dims_grid->setVerticalSpacing(2);
-    m_standard = new QRadioButton(dims);
-    m_standard->setObjectName("optStandard");
-    m_rect = new QRadioButton(dims);
-    m_rect->setObjectName("optRect");
-    m_circle = new QRadioButton(dims);
-    m_circle->setObjectName("optCircle");
+    m_standard = named<QRadioButton>("optStandard", dims);
+    m_rect = named<QRadioButton>("optRect", dims);
+    m_circle = named<QRadioButton>("optCircle", dims);
     dims_grid->addWidget(m_standard, 0, 0);
     dims_grid->addWidget(m_rect, 0, 1);
     dims_grid->addWidget(m_circle, 0, 2);
-    m_profile = new QComboBox(dims);
-    m_profile->setObjectName("cboProf");
+    m_profile = named<QComboBox>("cboProf", dims);
     dims_grid->addWidget(m_profile, 1, 0, 1, 2);
     dims_grid->addWidget(later_button("Cmd_tverrsnitt", dims), 1, 2);
     m_b = new InputBox("txt_b1", dims);
@@ -109,36 +87,32 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
         {{"Lbl_b", m_b}, {"Lbl_h", m_h}, {"Lbl_d", m_d}}};
     auto* size_row = new QHBoxLayout;
     for (const auto& [name, box] : sizes) {
-        size_row->addWidget(label(name, dims));
+        size_row->addWidget(named<QLabel>(name, dims));
         size_row->addWidget(box);
     }
     dims_grid->addLayout(size_row, 2, 0, 1, 3);
     column->addWidget(dims);
 
-    auto* bearing = frame("Fra_oppleggsdata", this);
-    auto* bearing_row = new QHBoxLayout(bearing);
-    bearing_row->setContentsMargins(4, 2, 4, 2);
-    bearing_row->addWidget(label("Lbl_oppleggs_nr", bearing));
-    m_node_label = label("Lbl_opp_nr_val", bearing);
+    auto* bearing = named<QGroupBox>("Fra_oppleggsdata", this);
+    auto* bearing_row = frame_layout<QHBoxLayout>(bearing);
+    bearing_row->addWidget(named<QLabel>("Lbl_oppleggs_nr", bearing));
+    m_node_label = named<QLabel>("Lbl_opp_nr_val", bearing);
     bearing_row->addWidget(m_node_label);
     // The window shows one support at a time; the picker reaches every other.
-    m_node = new QSpinBox(bearing);
-    m_node->setObjectName("opp_nr_picker");
+    m_node = named<QSpinBox>("opp_nr_picker", bearing);
     m_node->setRange(1, 2);
     bearing_row->addWidget(m_node);
     bearing_row->addWidget(new QLabel(QStringLiteral("kc90"), bearing));
     m_kc90 = new InputBox("Txt_kc90", bearing);
     bearing_row->addWidget(m_kc90);
-    bearing_row->addWidget(label("lbl_opp_l", bearing));
+    bearing_row->addWidget(named<QLabel>("lbl_opp_l", bearing));
     m_length = new InputBox("Txt_opp_L", bearing);
     bearing_row->addWidget(m_length);
     column->addWidget(bearing);
 
-    auto* buckling = frame("Fra_vipping", this);
-    auto* buckling_row = new QHBoxLayout(buckling);
-    buckling_row->setContentsMargins(4, 2, 4, 2);
-    m_buckling = new QCheckBox(buckling);
-    m_buckling->setObjectName("Check_vipping");
+    auto* buckling = named<QGroupBox>("Fra_vipping", this);
+    auto* buckling_row = frame_layout<QHBoxLayout>(buckling);
+    m_buckling = named<QCheckBox>("Check_vipping", buckling);
     m_buckling_input = later_button("Cmd_input_vipping", buckling);
     m_buckling_text = later_button("Cmd_vipp_text", buckling);
     buckling_row->addWidget(m_buckling);

@@ -1,6 +1,7 @@
 #include "gui/span_panel.h"
 
 #include "gui/input_box.h"
+#include "gui/named.h"
 #include "gui/picture_box.h"
 #include "gui/workspace.h"
 #include "ui/box_texts.h"
@@ -24,11 +25,6 @@ int kind_index(char kind)
     return kind == kFree ? 0 : kind == kBuiltIn ? 2 : 1;
 }
 
-QString name(const char* base, std::size_t index)
-{
-    return QString::fromLatin1(base) + QLatin1Char('_') + QString::number(index);
-}
-
 } // namespace
 
 SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(ws)
@@ -38,14 +34,12 @@ SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(w
     layout->setContentsMargins(4, 4, 4, 4);
     layout->setVerticalSpacing(2);
 
-    auto* count_box = new QGroupBox(this);
-    count_box->setObjectName("frmSpan");
+    auto* count_box = named<QGroupBox>("frmSpan", this);
     auto* count_row = new QHBoxLayout(count_box);
     count_row->setContentsMargins(4, 2, 4, 2);
     auto* count_group = new QButtonGroup(this);
     for (std::size_t i = 0; i < m_count.size(); ++i) {
-        m_count[i] = new QRadioButton(count_box);
-        m_count[i]->setObjectName(name("Optfelt", i));
+        m_count[i] = named<QRadioButton>(indexed("Optfelt", i), count_box);
         count_group->addButton(m_count[i]);
         count_row->addWidget(m_count[i]);
         connect(m_count[i], &QRadioButton::clicked, this,
@@ -54,7 +48,7 @@ SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(w
     layout->addWidget(count_box, 0, 0, 1, 5);
 
     for (std::size_t i = 0; i < m_length.size(); ++i) {
-        m_length[i] = new InputBox(name("Txtfelt", i), this);
+        m_length[i] = new InputBox(indexed("Txtfelt", i), this);
         m_length[i]->setMinimumWidth(40);
         layout->addWidget(m_length[i], 1, static_cast<int>(i));
         const int span = static_cast<int>(i) + 1;
@@ -78,14 +72,12 @@ SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(w
 
     const auto support_box = [this](const char* frame, const char* option,
                                     std::array<QRadioButton*, 3>& buttons, bool left) {
-        auto* box = new QGroupBox(this);
-        box->setObjectName(frame);
+        auto* box = named<QGroupBox>(frame, this);
         auto* row = new QHBoxLayout(box);
         row->setContentsMargins(4, 2, 4, 2);
         auto* group = new QButtonGroup(box);
         for (std::size_t k = 0; k < buttons.size(); ++k) {
-            buttons[k] = new QRadioButton(box);
-            buttons[k]->setObjectName(name(option, k));
+            buttons[k] = named<QRadioButton>(indexed(option, k), box);
             group->addButton(buttons[k]);
             row->addWidget(buttons[k]);
             connect(buttons[k], &QRadioButton::clicked, this,
@@ -94,8 +86,7 @@ SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(w
         return box;
     };
     layout->addWidget(support_box("frmSuppLeft", "optSuppLeft", m_left, true), 2, 0, 1, 4);
-    auto* help = new QPushButton(this);
-    help->setObjectName("Cmd_opplegg");
+    auto* help = named<QPushButton>("Cmd_opplegg", this);
     help->setEnabled(false); // its help form comes with the help pages
     layout->addWidget(help, 2, 4, 2, 1);
     layout->addWidget(support_box("frmSuppRight", "optSuppRight", m_right, false), 3, 0, 1, 4);
@@ -154,11 +145,7 @@ void SpanPanel::choose_span_count(int nf)
     if (failure) {
         // A new span has no length yet: its box asks for one before anything runs.
         m_ws.refresh();
-        InputBox* box = m_length[static_cast<std::size_t>(failure->span - 1)];
-        box->set_failed(true);
-        box->setFocus();
-        m_ws.show_message(failure->message);
-        box->setFocus();
+        m_ws.fail_box(*m_length[static_cast<std::size_t>(failure->span - 1)], failure->message);
         return;
     }
     m_ws.recalculate();

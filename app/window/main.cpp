@@ -6,7 +6,6 @@
 // The second form starts the window without a display, writes what it shows
 // as DIR/frmMain.png after the start and its recalculation, and quits.
 
-#include "app/window/screenshot_prompter.h"
 #include "drawing/headless_platform.h"
 #include "files/data_files.h"
 #include "files/start_values.h"
@@ -99,7 +98,7 @@ int main(int argc, char** argv)
     std::unique_ptr<kvelder::Prompter> prompter;
     if (args->screenshots) {
         recent = std::make_unique<kvelder::RecentFilesInMemory>();
-        prompter = std::make_unique<kvelder::ScreenshotPrompter>();
+        prompter = std::make_unique<kvelder::UnattendedPrompter>(&std::cerr);
     } else {
         recent = std::make_unique<kvelder::RecentFilesSettings>();
         prompter = std::make_unique<kvelder::DialogPrompter>();
