@@ -38,7 +38,8 @@ void PlotAll(const ScreenSurfaces& s, const Model& m)
     PlotResults(s.result, s.disp, m);
 }
 
-PictureImages draw_pictures(const Model& m, const std::array<QSize, std::size(kPictures)>& sizes, qreal pixel_ratio)
+PictureImages draw_pictures(const Model& m, const std::array<QSize, std::size(kPictures)>& sizes,
+                            qreal pixel_ratio)
 {
     PictureImages images;
     for (std::size_t k = 0; k < images.size(); ++k) {

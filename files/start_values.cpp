@@ -83,6 +83,7 @@ void StartProject(Model& m)
     StartSection(m);
     NewProjectHeading(m);
     m.nf_previous = m.nf;
+    m.nf_at_change = m.nf;
     build_calculation_grids(m);
 }
 

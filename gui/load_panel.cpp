@@ -25,9 +25,11 @@ LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
     auto* loads = named<QGroupBox>("frmLoad", this);
     auto* loads_grid = frame_layout<QGridLayout>(loads);
     int col = 0;
-    for (const char* name : {"Cmdegenlast", "Cmdnyttelast", "Cmdnyttelast_2"}) {
+    for (const auto& [name, id] : {std::pair{"Cmdegenlast", LoadGroupId::G},
+                                   {"Cmdnyttelast", LoadGroupId::Q1},
+                                   {"Cmdnyttelast_2", LoadGroupId::Q2}}) {
         auto* button = named<QPushButton>(name, loads);
-        button->setEnabled(false); // the load dialogs come next
+        connect(button, &QPushButton::clicked, this, [this, id = id] { m_ws.show_load_dialog(id); });
         loads_grid->addWidget(button, 0, col++);
     }
     m_self_weight = named<QCheckBox>("Check_profilvekt", loads);

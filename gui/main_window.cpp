@@ -1,8 +1,10 @@
 #include "gui/main_window.h"
 
 #include "drawing/pictures.h"
+#include "gui/captioning.h"
 #include "gui/factor_panel.h"
 #include "gui/input_box.h"
+#include "gui/load_dialog.h"
 #include "gui/load_panel.h"
 #include "gui/picture_box.h"
 #include "gui/prompter.h"
@@ -29,27 +31,6 @@
 
 namespace kvelder {
 namespace {
-
-QString qs(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
-// Sets the text of a control of any kind the captions name.
-void set_caption(QObject* control, const QString& text)
-{
-    if (auto* action = qobject_cast<QAction*>(control)) {
-        action->setText(text);
-    } else if (auto* menu = qobject_cast<QMenu*>(control)) {
-        menu->setTitle(text);
-    } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
-        frame->setTitle(text);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-        button->setText(text);
-    } else if (auto* label = qobject_cast<QLabel*>(control)) {
-        label->setText(text);
-    }
-}
 
 QGroupBox* picture_frame(const char* frame_name, const char* picture_name, QWidget* parent)
 {
@@ -162,6 +143,11 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         m_pictures[k] = findChild<PictureBox*>(picture_name(kPictures[k]));
         connect(m_pictures[k], &PictureBox::resized, this, &MainWindow::schedule_redraw);
     }
+    for (const LoadGroupId id : kLoadGroups) {
+        m_load_dialogs[static_cast<std::size_t>(id)] = new LoadDialog(*this, id, this);
+        connect(findChild<PictureBox*>(picture_name(picture_of(id))), &PictureBox::clicked, this,
+                [this, id] { show_load_dialog(id); });
+    }
     // The heading is kept as typed and needs no recalculation.
     for (auto [box, field] : {std::pair{m_project, &Model::prosjekt_s}, {m_id, &Model::id_s}}) {
         box->set_rule([this, box = box, field = field] {
@@ -180,11 +166,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         findChild<QWidget*>(name)->setMaximumWidth(28);
     }
     build_menu();
-    for (const Caption& c : form_captions()) {
-        if (QObject* control = findChild<QObject*>(qs(c.control))) {
-            set_caption(control, qs(c.text));
-        }
-    }
+    kvelder::apply_captions(*this, form_captions());
     resize(1024, 737);
 }
 
@@ -275,7 +257,7 @@ void MainWindow::recalculate()
     m_running = true;
     const bool past_gate = !data_missing(m_model);
     RecordingScreen screen;
-    MainCalc(m_model, screen, m_folders.scratch);
+    MainCalc(m_model, m_dialogs, screen, m_folders.scratch);
     // A loader's run clears the flag also when the beam stops at the gate.
     m_model.loading_flag = kFalse;
     if (past_gate) {
@@ -284,8 +266,11 @@ void MainWindow::recalculate()
     ++m_runs;
     m_running = false;
     refresh();
-    // Messages of the run come now that it is over, so that nothing modal
-    // opens inside it. The failing load row's dialog comes with the load dialogs.
+    // The failing load row's dialog and the messages of the run come now that
+    // it is over, so that nothing modal opens inside it.
+    for (const LoadRowFailure& failure : screen.load_failures) {
+        m_load_dialogs[static_cast<std::size_t>(failure.group)]->open_rows(failure);
+    }
     for (const Message& message : screen.messages) {
         show_message(message);
     }
@@ -311,11 +296,7 @@ void MainWindow::apply_captions()
     if (captions == m_captions) {
         return;
     }
-    for (const Caption& c : captions) {
-        if (QObject* control = findChild<QObject*>(qs(c.control))) {
-            set_caption(control, qs(c.text));
-        }
-    }
+    kvelder::apply_captions(*this, captions);
     m_captions = std::move(captions);
     // A panel's size follows the new words only when every level is told.
     for (QWidget* w : findChildren<QWidget*>()) {
@@ -367,7 +348,9 @@ void MainWindow::show_message(const Message& message)
 {
     const GuardScope guard(m_guard);
     const QString title = message.title.empty() ? qs(program_title()) : qs(message.title);
-    m_prompter.message(this, title, qs(message.text), false);
+    // Over an open load dialog, the box comes over the dialog.
+    QWidget* parent = QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this;
+    m_prompter.message(parent, title, qs(message.text), false);
 }
 
 bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& apply, bool recalc)
@@ -392,14 +375,23 @@ bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& a
     return true;
 }
 
-void MainWindow::fail_box(InputBox& box, const Message& message)
+void MainWindow::fail_box(InputBox& box, const std::optional<Message>& message)
 {
     const GuardScope guard(m_guard);
     box.set_failed(true);
     box.setFocus();
-    show_message(message);
-    box.setFocus();
+    if (message) {
+        show_message(*message);
+        box.setFocus();
+    }
     box.selectAll();
+}
+
+void MainWindow::show_load_dialog(LoadGroupId id)
+{
+    if (commit_focused_box()) {
+        m_load_dialogs[static_cast<std::size_t>(id)]->open_rows();
+    }
 }
 
 bool MainWindow::commit_focused_box()

@@ -23,6 +23,7 @@ namespace kvelder {
 
 class FactorPanel;
 class InputBox;
+class LoadDialog;
 class LoadPanel;
 class PictureBox;
 class Prompter;
@@ -61,7 +62,8 @@ public:
     void refresh() override;
     void blank(Picture picture) override { m_blank.insert(picture); }
     void show_message(const Message& message) override;
-    void fail_box(InputBox& box, const Message& message) override;
+    void fail_box(InputBox& box, const std::optional<Message>& message) override;
+    void show_load_dialog(LoadGroupId id) override;
     bool run_box_rule(InputBox& box, const std::function<BoxResult()>& apply,
                       bool recalculate = true) override;
     bool filling() const override { return is_true(m_model.loading_flag); }
@@ -110,6 +112,7 @@ private:
     InputBox* m_id = nullptr;
     QLabel* m_headline = nullptr;
     std::array<PictureBox*, 6> m_pictures{};
+    std::array<LoadDialog*, 3> m_load_dialogs{};
     std::array<QAction*, kRecentFiles> m_recent_items{};
     QAction* m_recent_separator = nullptr;
     QMenu* m_file_menu = nullptr;

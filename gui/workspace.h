@@ -31,8 +31,11 @@ public:
     // Leaves a result picture blank until the next run that gets past its gate.
     virtual void blank(Picture picture) = 0;
     virtual void show_message(const Message& message) = 0;
-    // Marks a box failed and shows why; the box keeps the focus, its text selected.
-    virtual void fail_box(InputBox& box, const Message& message) = 0;
+    // Marks a box failed and shows why, where there is a message; the box
+    // keeps the focus, its text selected.
+    virtual void fail_box(InputBox& box, const std::optional<Message>& message) = 0;
+    // Opens the load dialog of a group on its rows.
+    virtual void show_load_dialog(LoadGroupId id) = 0;
 
     // A box's rule: `apply` stores the box's text in the beam and returns the
     // box's new text and its failure, if any; `focus` is the box that takes

@@ -32,6 +32,7 @@ struct Model {
     // --- Geometry and supports -------------------------------------------------
     std::int16_t nf = 1;           // number of spans, 1..5
     std::int16_t nf_previous = 1;  // span count of the last finished recalculation
+    std::int16_t nf_at_change = 1; // span count the load dialogs were last fitted to
     std::int16_t nnodes = 2;       // nf + 1
     Table<float, kMaxSpans> ffl_s; // span lengths
     char nsupLeft_s = kSimple;

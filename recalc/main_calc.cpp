@@ -13,13 +13,20 @@
 namespace kvelder {
 namespace {
 
-// The four tables of a group in order; the point and moment tables that pass
-// add their positions to the grids.
-std::optional<LoadRowFailure> check_group(Model& m, LoadGroupId id)
+// The four tables of a group in order, read from the dialog's boxes where
+// there is a dialog; the point and moment tables that pass add their
+// positions to the grids.
+std::optional<LoadRowFailure> check_group(Model& m, LoadGroupId id, LoadDialogTexts* boxes)
 {
+    const std::optional<LoadRowFailure> read = boxes != nullptr ? ReadRows(m, id, *boxes) : std::nullopt;
     for (LoadTable table : kLoadTables) {
-        if (auto failure = check_load_table(m, id, table)) {
-            return failure;
+        if (read && read->table == table) {
+            return read;
+        }
+        if (boxes == nullptr) {
+            if (auto failure = check_load_table(m, id, table)) {
+                return failure;
+            }
         }
         if (table == LoadTable::Point) {
             collect_load_points(m, group_of(m, id), points_of(m, id), PointTable::Point);
@@ -30,9 +37,12 @@ std::optional<LoadRowFailure> check_group(Model& m, LoadGroupId id)
     return std::nullopt;
 }
 
-} // namespace
-
-void check_loads(Model& m, CalcScreen& screen)
+// Reads (or checks) the load rows of G, Q1 and Q2 in turn and builds the
+// calculation grids from them. The first failing row ends the checks: its
+// group's dialog is shown, with the message where the language has one, and
+// err_load_item is set. After three sound groups the empty groups decide the
+// load-combination option and err_section.
+void check_loads(Model& m, LoadDialogs* dialogs, CalcScreen& screen)
 {
     // The grids follow the spans even when a failing row stops the collection early.
     divide_spans(m, m.nxtot_s, 50, m.xl_s);
@@ -40,7 +50,8 @@ void check_loads(Model& m, CalcScreen& screen)
     for (const LoadGroupId id : kLoadGroups) {
         screen.clear_picture(picture_of(id));
         m.err_load_item = kFalse;
-        const std::optional<LoadRowFailure> failure = check_group(m, id);
+        const std::optional<LoadRowFailure> failure =
+            check_group(m, id, dialogs != nullptr ? &(*dialogs)[static_cast<std::size_t>(id)] : nullptr);
         // The grid is kept sorted even after a failure, so that nothing reads it out of order.
         normalise_grid(m, m.nxtot_s, 50, m.xl_s);
         const bool self_weight = id == LoadGroupId::G && is_true(m.profile_weight_on);
@@ -65,13 +76,17 @@ void check_loads(Model& m, CalcScreen& screen)
     m.err_section = flag_of(all_empty);
 }
 
+} // namespace
+
 bool data_missing(const Model& m)
 {
     return is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) ||
            is_true(m.err_section) || window_box_failure(m).has_value();
 }
 
-void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder)
+namespace {
+
+void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, const std::filesystem::path& scratch_folder)
 {
     m.calc_invalid = kFalse;
     if (data_missing(m)) {
@@ -82,7 +97,7 @@ void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch
     Calc_load_factors(m);
     Read_material_data(m, m.material_row);
     Calc_kdef(m);
-    check_loads(m, screen);
+    check_loads(m, dialogs, screen);
     Calc_kcr(m);
     Calc_kmod(m);
     Calc_kh(m);
@@ -104,6 +119,18 @@ void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch
 
     m.loading_flag = kFalse;
     m.nf_previous = m.nf;
+}
+
+} // namespace
+
+void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, const std::filesystem::path& scratch_folder)
+{
+    run(m, &dialogs, screen, scratch_folder);
+}
+
+void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder)
+{
+    run(m, nullptr, screen, scratch_folder);
 }
 
 } // namespace kvelder

@@ -33,13 +33,16 @@ std::optional<Message> ChangeBeam(Model& m, LoadDialogs& dialogs)
     m.nsupLeft_s = kSimple;
     m.nsupRight_s = kSimple;
     const std::optional<Message> message = check_supports(m);
-    if (m.nf < m.nf_previous) {
+    // Not the count of the last run: a new span without a length stops runs,
+    // and its rows must still go when the count falls back.
+    if (m.nf < m.nf_at_change) {
         for (LoadGroupId id : kLoadGroups) {
             LoadDialogTexts& dialog = dialogs[static_cast<std::size_t>(id)];
             empty_rows_beyond(dialog, m.nf, m.decimal_comma);
             ReadRows(m, id, dialog);
         }
     }
+    m.nf_at_change = m.nf;
     m.err_load_item = kFalse;
     return message;
 }

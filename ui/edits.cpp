@@ -43,15 +43,6 @@ LoadDialogTexts& dialog_of(LoadDialogs& dialogs, LoadGroupId id)
     return dialogs[static_cast<std::size_t>(id)];
 }
 
-// The dialogs are the master of the loads: after a change of their boxes every
-// group reads its rows again.
-void read_all_rows(Model& m, LoadDialogs& dialogs)
-{
-    for (LoadGroupId id : kLoadGroups) {
-        ReadRows(m, id, dialog_of(dialogs, id));
-    }
-}
-
 // A point row standing on the support at one end, or a moment row on a
 // built-in end, loses its span number.
 void drop_rows_on_support(const Model& m, LoadDialogTexts& dialog, BeamEnd end, char kind)

@@ -278,6 +278,13 @@ std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts
     return std::nullopt;
 }
 
+void read_all_rows(Model& m, LoadDialogs& dialogs)
+{
+    for (LoadGroupId id : kLoadGroups) {
+        ReadRows(m, id, dialogs[static_cast<std::size_t>(id)]);
+    }
+}
+
 LoadDialogTexts dialog_texts(const LoadGroup& g, std::int16_t decimal_comma)
 {
     LoadDialogTexts texts;

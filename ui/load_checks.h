@@ -22,6 +22,10 @@ std::optional<LoadRowFailure> check_load_table(const Model& m, LoadGroupId id, L
 // Converted boxes are rewritten with the machine's decimal separator.
 std::optional<LoadRowFailure> ReadRows(Model& m, LoadGroupId id, LoadDialogTexts& texts);
 
+// The dialogs are the master of the loads: after a change of their boxes every
+// group reads its rows again. Failures are left to the next recalculation.
+void read_all_rows(Model& m, LoadDialogs& dialogs);
+
 // The boxes of a dialog for a group's rows: span numbers with "0", values with
 // "0.00", as a project fills them.
 LoadDialogTexts dialog_texts(const LoadGroup& g, std::int16_t decimal_comma);

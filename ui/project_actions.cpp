@@ -12,6 +12,7 @@ namespace {
 // holds a load is no longer held there for one that held none.
 void check_new_beam(Model& m)
 {
+    m.nf_at_change = m.nf;
     check_spans(m);
     check_supports(m);
     const bool loaded = !(m.G.empty() && m.Q1.empty() && m.Q2.empty()) || is_true(m.profile_weight_on);

@@ -70,9 +70,8 @@ void read_description(Model& m, const fs::path& input)
     }
 }
 
-void read_project(Model& m, const fs::path& input)
+void read_project(Model& m, const fs::path& input, LoadDialogs& dialogs)
 {
-    LoadDialogs dialogs;
     if (const auto failed = open_project(m, input, dialogs)) {
         std::string line = input.string() + ": " + trimmed(project_message(m.language, *failed).text);
         if (failed->kind == ProjectFailure::Kind::NotAProject) {
@@ -94,17 +93,35 @@ void start(Model& m, const Options& o, std::ostream& err)
     }
 }
 
-// The beam ready for its recalculation: start-up, the input, and every check
-// that typing it into the window would run. The failed checks' messages.
-std::vector<Message> prepare(Model& m, const Options& o, std::ostream& err)
+// The beam ready for its recalculation: start-up, the input, and the messages
+// of every check that typing it into the window would run. A project's loads
+// are the texts of its load dialogs, as the window reads them; a description's
+// rows are the tables as given.
+struct Prepared {
+    std::vector<Message> checks;
+    std::optional<LoadDialogs> dialogs;
+};
+
+Prepared prepare(Model& m, const Options& o, std::ostream& err)
 {
     start(m, o, err);
+    Prepared p;
     if (o.input && is_project(*o.input)) {
-        read_project(m, *o.input);
+        read_project(m, *o.input, p.dialogs.emplace());
     } else if (o.input) {
         read_description(m, *o.input);
     }
-    return check_all_boxes(m);
+    p.checks = check_all_boxes(m);
+    return p;
+}
+
+void recalculate(Model& m, Prepared& p, CalcScreen& screen)
+{
+    if (p.dialogs) {
+        MainCalc(m, *p.dialogs, screen);
+    } else {
+        MainCalc(m, screen);
+    }
 }
 
 // The messages of the checks, then of one recalculation when the checks
@@ -115,13 +132,13 @@ struct Outcome {
     bool calculated = false;
 };
 
-Outcome calculate(Model& m, std::vector<Message> checks, std::ostream& err)
+Outcome calculate(Model& m, Prepared& p, std::ostream& err)
 {
-    if (!checks.empty()) {
-        return {std::move(checks), false};
+    if (!p.checks.empty()) {
+        return {p.checks, false};
     }
     RecordingScreen screen;
-    MainCalc(m, screen);
+    recalculate(m, p, screen);
     for (const LoadRowFailure& f : screen.load_failures) {
         if (!failure_message(m.language, f)) {
             err << "kvelder-cli: " << group_name(f.group) << " " << table_name(f.table) << " load, row "
@@ -194,7 +211,8 @@ int run_calc(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        Prepared input = prepare(*m, o, err);
+        const Outcome run = calculate(*m, input, err);
         if (!run.calculated) {
             if (!o.text) {
                 out << nlohmann::ordered_json{{"messages", messages_json(run.messages)}}.dump(2) << '\n';
@@ -216,7 +234,8 @@ int run_save(const Options& o, std::ostream&, std::ostream& err)
         auto m = std::make_unique<Model>();
         // The factors of the last recalculation travel in the file, as when the
         // window saves.
-        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        Prepared input = prepare(*m, o, err);
+        const Outcome run = calculate(*m, input, err);
         if (!run.calculated) {
             err << "kvelder-cli: the beam fails its checks; " << o.output->string() << " is not written\n";
             return report_failure(run.messages, err);
@@ -234,7 +253,9 @@ int run_dump(const Options& o, std::ostream& out, std::ostream& err)
         auto m = std::make_unique<Model>();
         start(*m, o, err);
         const OwnData folder(*m);
-        read_project(*m, *o.input);
+        LoadDialogs dialogs;
+        read_project(*m, *o.input, dialogs);
+        read_all_rows(*m, dialogs); // the rows as the window holds them
         note_own_data(folder, OwnData(*m), err);
         out << describe_beam(*m).dump(2) << '\n';
         return kCalculated;
@@ -245,7 +266,8 @@ int run_plot(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        const Outcome run = calculate(*m, prepare(*m, o, err), err);
+        Prepared input = prepare(*m, o, err);
+        const Outcome run = calculate(*m, input, err);
         if (!run.calculated) {
             return report_failure(run.messages, err);
         }
@@ -260,7 +282,8 @@ int run_bench(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
         auto m = std::make_unique<Model>();
-        const Outcome warm_up = calculate(*m, prepare(*m, o, err), err);
+        Prepared input = prepare(*m, o, err);
+        const Outcome warm_up = calculate(*m, input, err);
         if (!warm_up.calculated) {
             return report_failure(warm_up.messages, err);
         }
@@ -269,7 +292,7 @@ int run_bench(const Options& o, std::ostream& out, std::ostream& err)
         RecordingScreen screen;
         for (int r = 0; r < o.runs; ++r) {
             const auto begin = std::chrono::steady_clock::now();
-            MainCalc(*m, screen);
+            recalculate(*m, input, screen);
             const auto end = std::chrono::steady_clock::now();
             times.push_back(std::chrono::duration<double, std::micro>(end - begin).count());
         }

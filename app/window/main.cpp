@@ -15,6 +15,7 @@
 #include "ui/load_checks.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QPixmap>
 #include <QStringList>
@@ -58,16 +59,41 @@ bool wants_screenshots(int argc, char** argv)
                        [](const char* arg) { return std::string(arg) == "--screenshots"; });
 }
 
-int write_screenshot(QWidget& window, const fs::path& folder)
+bool write_screenshot(QWidget& widget, const fs::path& folder)
+{
+    const fs::path file = folder / (widget.objectName().toStdString() + ".png");
+    if (!widget.grab().save(QString::fromStdWString(file.wstring()), "PNG")) {
+        std::cerr << "kvelder: " << file.string() << ": cannot be written\n";
+        return false;
+    }
+    std::cout << file.string() << '\n';
+    return true;
+}
+
+// The window, then each load dialog opened on the beam's rows.
+int write_screenshots(kvelder::MainWindow& window, const fs::path& folder)
 {
     std::error_code ec;
     fs::create_directories(folder, ec);
-    const fs::path file = folder / "frmMain.png";
-    if (!window.grab().save(QString::fromStdWString(file.wstring()), "PNG")) {
-        std::cerr << "kvelder: " << file.string() << ": cannot be written\n";
+    QApplication::processEvents();
+    window.redraw_pictures();
+    if (!write_screenshot(window, folder)) {
         return 2;
     }
-    std::cout << file.string() << '\n';
+    for (const kvelder::LoadGroupId id : kvelder::kLoadGroups) {
+        window.show_load_dialog(id);
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            std::cerr << "kvelder: the load dialog of " << kvelder::group_name(id) << " did not open\n";
+            return 2;
+        }
+        QApplication::processEvents();
+        const bool written = write_screenshot(*dialog, folder);
+        dialog->reject();
+        if (!written) {
+            return 2;
+        }
+    }
     return 0;
 }
 
@@ -108,9 +134,7 @@ int main(int argc, char** argv)
     window.show();
     window.begin(notes, args->project);
     if (args->screenshots) {
-        QApplication::processEvents();
-        window.redraw_pictures();
-        return write_screenshot(window, *args->screenshots);
+        return write_screenshots(window, *args->screenshots);
     }
     return QApplication::exec();
 }

@@ -105,12 +105,19 @@ TEST(SpanCount, FewerSpansEmptyTheirRowsAndANewSpanHasNoLength)
     EXPECT_EQ(m->Q1.pt_P(1), 2.0F);
     EXPECT_TRUE(d[1].frames[2][0][0].empty()); // the row of span 2 is emptied in its place
 
-    m->nf_previous = 1;
-    const auto failure = choose_span_count(*m, 2, d);
+    auto failure = choose_span_count(*m, 2, d);
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->span, 2);
     EXPECT_EQ(m->err_spans, kTrue);
     EXPECT_EQ(m->G.uni_n, 1); // going back does not bring the loads back
+
+    // A row on the new span goes when the count falls back, though the new
+    // span's missing length stopped every run in between.
+    d[0].frames[0].push_back({"2", "1.00"});
+    EXPECT_FALSE(choose_span_count(*m, 1, d));
+    EXPECT_TRUE(d[0].frames[0].back()[0].empty());
+    failure = choose_span_count(*m, 2, d);
+    ASSERT_TRUE(failure);
     m->l_stag(1) = 2.0F;
     EXPECT_FALSE(set_span_length(*m, 2, 4.0F, d));
     EXPECT_EQ(m->err_spans, kFalse);
@@ -146,13 +153,15 @@ TEST(Supports, LoadsOnANewSupportLoseTheirRows)
     add_moment(m->G, 1, 2, 0.0F);
     add_point(m->Q1, 2, 5, 4.995F);
     add_moment(m->Q1, 2, 2, 5.0F);
+    add_moment(m->Q2, 1, 2, 0.0F);
     LoadDialogs d = load_dialogs(*m);
 
     EXPECT_FALSE(choose_support(*m, BeamEnd::Left, kSimple, d));
     EXPECT_EQ(m->G.pt_n, 0); // a point on a simple support
     EXPECT_EQ(m->G.mom_n, 1);
     EXPECT_FALSE(choose_support(*m, BeamEnd::Left, kBuiltIn, d));
-    EXPECT_EQ(m->G.mom_n, 0); // a moment on a built-in end
+    EXPECT_EQ(m->G.mom_n, 0);             // a moment on a built-in end
+    EXPECT_EQ(d[2].frames[3][0][0], "1"); // Q2 keeps its rows
     EXPECT_FALSE(choose_support(*m, BeamEnd::Right, kBuiltIn, d));
     EXPECT_EQ(m->Q1.pt_n, 0);
     EXPECT_EQ(m->Q1.mom_n, 0);

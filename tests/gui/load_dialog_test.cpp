@@ -1,0 +1,181 @@
+// The load dialogs driven from the main window with keys and clicks.
+
+#include "gui/load_dialog.h"
+#include "tests/gui/window_flow.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace kvelder::test {
+namespace {
+
+class LoadDialogFlow : public MainWindowFlow {
+protected:
+    // The dialog of that name, once it is the active window.
+    QDialog* dialog(const char* name)
+    {
+        auto* d = get<QDialog>(name);
+        if (d->isVisible()) {
+            d->activateWindow();
+            EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; })) << name;
+        }
+        return d;
+    }
+    // Types into the box with the focus and walks on with `key`.
+    void enter(const QString& text, Qt::Key key = Qt::Key_Return)
+    {
+        QWidget* box = QApplication::focusWidget();
+        ASSERT_NE(box, nullptr);
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, key);
+    }
+    QString box(const char* name) { return get<QLineEdit>(name)->text(); }
+    // The dialogs of Q1 and Q2 share the names of their buttons.
+    void press(QDialog* d, const char* button)
+    {
+        auto* b = d->findChild<QPushButton*>(button);
+        ASSERT_NE(b, nullptr) << button;
+        QTest::mouseClick(b, Qt::LeftButton);
+    }
+    bool focus_in_dialog(QDialog* d, const char* name)
+    {
+        return QApplication::activeWindow() == d &&
+               QApplication::focusWidget() == d->findChild<QWidget*>(name);
+    }
+};
+
+TEST_F(LoadDialogFlow, ALoadEnteredWithTheKeyboardAloneLandsInTheBeam)
+{
+    start();
+    click("Cmdnyttelast_2");
+    QDialog* q2 = dialog("frm_B_nyttelast_2");
+    ASSERT_TRUE(q2->isVisible());
+    EXPECT_TRUE(focus_in_dialog(q2, "TxtfeltN_2_j_0"));
+    enter("1");
+    enter("2,5", Qt::Key_Tab); // Tab walks as Enter does
+    enter("");                 // an empty span box: on to the trapezoids
+    EXPECT_TRUE(focus_in_dialog(q2, "TxtfeltN_2_t_0"));
+    enter("");
+    enter("2");
+    enter("10");
+    enter("1");
+    EXPECT_TRUE(focus_in_dialog(q2, "TxtfeltN_2_p_1"));
+    enter("");
+    enter(""); // the moments' empty span box ends on OK
+    EXPECT_TRUE(focus_in_dialog(q2, "Cmdok_n"));
+    EXPECT_EQ(box("TxtQN_2_j_0"), "2.50");
+
+    const int runs = window->runs();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(q2->isVisible());
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(model->Q2.uni_n, 1);
+    EXPECT_EQ(model->Q2.uni_q(1), 2.5F);
+    ASSERT_EQ(model->Q2.pt_n, 1);
+    EXPECT_EQ(model->Q2.pt_span(1), 2);
+    EXPECT_EQ(model->Q2.pt_P(1), 10.0F);
+    EXPECT_TRUE(prompter.messages.isEmpty());
+}
+
+TEST_F(LoadDialogFlow, OkStaysOnAFailingRowUntilItIsPutRightAndClosingChangesNothing)
+{
+    start(); // G 2.0 kN/m on spans 1 and 2
+    const QString moment_before = text("lbl_mom_0");
+    click("Picegenlast"); // the picture opens the dialog as the button does
+    QDialog* g = dialog("frm_B_egenlast");
+    ASSERT_TRUE(g->isVisible());
+    type("TxtQE_j_1", "5");
+    type("TxtfeltE_j_1", "1");
+    const int runs = window->runs();
+    click("Cmdok_e");
+    EXPECT_EQ(prompter.messages, QStringList{"Only one load for each span"});
+    EXPECT_TRUE(g->isVisible());
+    EXPECT_TRUE(green("TxtfeltE_j_1"));
+    EXPECT_TRUE(focus_in_dialog(g, "TxtfeltE_j_1"));
+    EXPECT_EQ(model->G.uni_span(2), 2);
+    EXPECT_EQ(model->G.uni_q(2), 2.0F);
+    EXPECT_EQ(window->runs(), runs);
+
+    // The title bar's close: the beam and the boxes as they were.
+    const LoadDialogs texts_before = dialogs;
+    g->reject();
+    EXPECT_EQ(dialogs, texts_before);
+    EXPECT_EQ(model->G.uni_q(2), 2.0F);
+    click("Cmdegenlast");
+    dialog("frm_B_egenlast");
+    EXPECT_EQ(box("TxtQE_j_1"), "2.00");
+    EXPECT_FALSE(green("TxtfeltE_j_1"));
+
+    // Put right, with a gap before it: the rows close up and the results follow.
+    type("TxtfeltE_j_0", "");
+    type("TxtQE_j_1", "5");
+    click("Cmdok_e");
+    EXPECT_FALSE(g->isVisible());
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(model->G.uni_n, 1);
+    EXPECT_EQ(model->G.uni_q(1), 5.0F);
+    EXPECT_NE(text("lbl_mom_0"), moment_before);
+    click("Cmdegenlast");
+    dialog("frm_B_egenlast");
+    EXPECT_EQ(box("TxtfeltE_j_0"), "2");
+    EXPECT_EQ(box("TxtfeltE_j_1"), "");
+
+    // Remove all loads, then OK: the group is empty.
+    click("cmd_e_last_clear");
+    EXPECT_EQ(box("TxtfeltE_j_0"), "");
+    click("Cmdok_e");
+    EXPECT_TRUE(model->G.empty());
+    EXPECT_EQ(prompter.messages.size(), 1);
+}
+
+TEST_F(LoadDialogFlow, ARowThatFailsInARecalculationOpensItsDialogOnceOnItsBox)
+{
+    auto beam = example_beam();
+    add_point(beam->Q2, 2, 3.0F, 4.5F);
+    add_moment(beam->Q1, 2, 1.0F, 2.0F); // a project does not restore its span
+    start(write("q2.kvel", *beam).toStdString());
+    EXPECT_TRUE(prompter.messages.isEmpty());
+    EXPECT_EQ(model->Q1.mom_span(1), 2); // read from the dialog's box
+
+    // Q2 is not fitted to a shorter span: its point now lies beyond it.
+    type("Txtfelt_1", "4");
+    QDialog* q2 = dialog("frm_B_nyttelast_2");
+    EXPECT_TRUE(q2->isVisible());
+    EXPECT_EQ(prompter.messages, QStringList{"c > lenght of span"});
+    EXPECT_TRUE(green("TxtcN_2_0"));
+    EXPECT_TRUE(focus_in_dialog(q2, "TxtcN_2_0"));
+
+    type("TxtcN_2_0", "3");
+    press(q2, "Cmdok_n");
+    EXPECT_FALSE(q2->isVisible());
+    EXPECT_EQ(model->Q2.pt_a(1), 3.0F);
+    EXPECT_EQ(prompter.messages.size(), 1);
+}
+
+TEST_F(LoadDialogFlow, EveryBoxOfADialogTakesAnyTextWithAMessageOrQuietly)
+{
+    start();
+    click("Cmdnyttelast");
+    QDialog* q1 = dialog("frm_B_nyttelast");
+    const Model before = *model;
+    // Each box ends on a sound text, so that leaving it for the next raises nothing.
+    const QStringList texts{"", "abc", "1e999", "-0", "nan", ",", "1,5", QString(300, '7'), "1"};
+    for (const LoadTable table : kLoadTables) {
+        for (int b = 0; b <= value_count(table); ++b) {
+            const std::string name = load_box_name(LoadGroupId::Q1, table, b, 1);
+            for (const QString& text : texts) {
+                prompter.messages.clear();
+                type(name.c_str(), text);
+                EXPECT_LE(prompter.messages.size(), 1) << name << " " << text.toStdString();
+                EXPECT_EQ(green(name.c_str()), !prompter.messages.isEmpty()) << name;
+            }
+        }
+    }
+    EXPECT_TRUE(q1->isVisible());
+    q1->reject();
+    EXPECT_EQ(project_bytes(*model), project_bytes(before));
+}
+
+} // namespace
+} // namespace kvelder::test
