@@ -4,6 +4,7 @@
 
 #include "bench/beams.h"
 #include "recalc/main_calc.h"
+#include "ui/load_checks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -18,14 +19,16 @@ void run(benchmark::State& state, Model& m)
 {
     const std::filesystem::path scratch = std::filesystem::temp_directory_path() / "kvelder-bench";
     std::filesystem::create_directories(scratch);
+    // The loads are read from the dialogs' texts, as in the window.
+    LoadDialogs dialogs = load_dialogs(m);
     RecordingScreen screen;
-    MainCalc(m, screen, scratch);
+    MainCalc(m, dialogs, screen, scratch);
     if (!screen.messages.empty() || !screen.load_failures.empty()) {
         state.SkipWithError("the beam fails its checks");
         return;
     }
     for (auto _ : state) {
-        MainCalc(m, screen, scratch);
+        MainCalc(m, dialogs, screen, scratch);
         benchmark::DoNotOptimize(m.Uf_mom);
     }
 }
