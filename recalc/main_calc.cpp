@@ -11,6 +11,13 @@
 #include "ui/messages.h"
 
 namespace kvelder {
+
+bool data_missing(const Model& m)
+{
+    return is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) ||
+           is_true(m.err_section) || window_box_failure(m).has_value();
+}
+
 namespace {
 
 // The four tables of a group in order, read from the dialog's boxes where
@@ -75,16 +82,6 @@ void check_loads(Model& m, LoadDialogs* dialogs, CalcScreen& screen)
     }
     m.err_section = flag_of(all_empty);
 }
-
-} // namespace
-
-bool data_missing(const Model& m)
-{
-    return is_true(m.err_loads) || is_true(m.err_supports) || is_true(m.err_spans) ||
-           is_true(m.err_section) || window_box_failure(m).has_value();
-}
-
-namespace {
 
 void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, const std::filesystem::path& scratch_folder)
 {
