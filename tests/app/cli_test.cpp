@@ -5,13 +5,14 @@
 #include "tests/support/beams.h"
 
 #include <QCryptographicHash>
+#include <QImageReader>
 #include <QProcess>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <array>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -20,6 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using Args = std::vector<std::string>;
 
 struct CliRun {
     int exit = -1;
@@ -27,39 +29,15 @@ struct CliRun {
     std::string err;
 };
 
-// The words of a command line; '...' keeps blanks inside one word.
-std::vector<std::string> words(const std::string& line)
-{
-    std::vector<std::string> w;
-    std::string word;
-    bool quoted = false, any = false;
-    for (char c : line) {
-        if (c == '\'') {
-            quoted = !quoted, any = true;
-        } else if (c == ' ' && !quoted) {
-            if (any) {
-                w.push_back(word);
-            }
-            word.clear(), any = false;
-        } else {
-            word += c, any = true;
-        }
-    }
-    if (any) {
-        w.push_back(word);
-    }
-    return w;
-}
-
 // Runs the command in process, in the scratch folder, where it leaves its trace files.
-CliRun run(const std::string& args, const fs::path& folder = scratch_folder())
+CliRun run(const Args& args, const fs::path& folder = scratch_folder())
 {
     fs::create_directories(folder);
     const fs::path before = fs::current_path();
     fs::current_path(folder);
     std::ostringstream out, err;
     CliRun r;
-    r.exit = cli::run_cli(words(args), source_data_dir(), out, err);
+    r.exit = cli::run_cli(args, source_data_dir(), out, err);
     fs::current_path(before);
     r.out = out.str();
     r.err = err.str();
@@ -77,31 +55,46 @@ std::string description(const std::string& name, const std::string& text)
 {
     const fs::path path = scratch_folder() / name;
     std::ofstream(path) << text;
-    std::string quoted(1, '\''); // built in steps: GCC 12 warns falsely of "'" + std::string
-    quoted += path.string();
-    return quoted += '\'';
+    return path.string();
+}
+
+std::string scratch(const std::string& name)
+{
+    return (scratch_folder() / name).string();
+}
+
+// A data folder of the shipped files whose material catalogue has `from` replaced by `to`.
+std::string data_folder(const std::string& name, const std::string& from, const std::string& to)
+{
+    const fs::path folder = scratch_folder() / name;
+    fs::create_directories(folder);
+    for (const char* file : {"EC5Profile.csv", "Kveldersetup.csv"}) {
+        fs::copy_file(source_data_dir() / file, folder / file, fs::copy_options::overwrite_existing);
+    }
+    std::string materials = file_text(source_data_dir() / "EC5Material.csv");
+    materials.replace(materials.find(from), from.size(), to);
+    std::ofstream(folder / "EC5Material.csv", std::ios::binary) << materials;
+    return folder.string();
 }
 
 TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
 {
-    CliRun r = run("calc " + description("no_span.json", R"({"ffl_s": [5.0, 0.0]})"));
-    EXPECT_EQ(r.exit, 1);
-    EXPECT_NE(r.err.find("Length of span is missing"), std::string::npos) << r.err;
-    EXPECT_EQ(json::parse(r.out)["messages"][0]["title"], "Lenght of span");
-
-    r = run("calc " + description("bad_row.json", R"({"G": {"uni": [[1, 2.0], [3, 1.0]]}})"));
+    CliRun r = run({"calc", description("bad_row.json", R"({"G": {"uni": [[1, 2.0], [3, 1.0]]}})")});
     EXPECT_EQ(r.exit, 1);
     EXPECT_EQ(json::parse(r.out)["messages"][0]["code"], 116);
 
-    // A check without a message in Norwegian still fails, and says which row.
-    r = run("calc --text " +
-            description("silent.json", R"({"language": "Nor", "G": {"pt": [[4, 2.0, 1.0]]}})"));
-    EXPECT_EQ(r.exit, 1);
-    EXPECT_NE(r.err.find("G point load, row 1"), std::string::npos) << r.err;
-
-    r = run("calc " + description("ksys.json", R"({"ksys": 1.3})"));
+    r = run({"calc", description("ksys.json", R"({"ksys": 1.3})")});
     EXPECT_EQ(r.exit, 1);
     EXPECT_NE(r.err.find(" 1 <= ksys <= 1.2"), std::string::npos);
+
+    // A check without a message in Norwegian still fails, and says which row;
+    // Q2, the last group, is checked too.
+    r = run({"calc", "--text",
+             description("silent.json", R"({"language": "Nor", "Q2": {"pt": [[3, 2.0, 1.0]]}})")});
+    EXPECT_EQ(r.exit, 1);
+    EXPECT_NE(r.err.find("Q2 point load, row 1: the span number is not a span of the beam (check 163)"),
+              std::string::npos)
+        << r.err;
 }
 
 TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
@@ -128,69 +121,71 @@ TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
         {R"([1, 2])", "JSON object"},
     };
     for (const auto& c : cases) {
-        const CliRun r = run("calc " + description("bad.json", c.text));
+        const CliRun r = run({"calc", description("bad.json", c.text)});
         EXPECT_EQ(r.exit, 2) << c.text;
         EXPECT_NE(r.err.find(c.says), std::string::npos) << c.text << " -> " << r.err;
         EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
     }
+
+    // A refused description leaves the beam as it was.
+    auto m = example_beam();
+    const auto before = std::make_unique<Model>(*m);
+    const auto failed = cli::apply_description(
+        *m,
+        json::parse(R"({"ffl_s": [3.0, 4.0, 5.0], "nsupLeft_s": "I", "section_b": 90, "material": "C99"})"));
+    ASSERT_TRUE(failed);
+    EXPECT_NE(failed->find("\"material\""), std::string::npos) << *failed;
+    EXPECT_TRUE(*m == *before);
 }
 
 TEST(CliCalc, UsageAndFileErrorsExitTwo)
 {
-    for (const char* args : {"", "draw", "calc --colour", "calc a.json b.json", "calc /no/such/beam.json",
-                             "calc beam.txt", "bench -n 0", "calc --data-dir /no/such/folder"}) {
-        const CliRun r = run(args);
-        EXPECT_EQ(r.exit, 2) << args;
-        EXPECT_FALSE(r.err.empty()) << args;
+    for (const char* line : {"", "draw", "calc --colour", "calc a.json b.json", "calc /no/such/beam.json",
+                             "calc beam.txt", "calc --size 100x100", "calc --data-dir /no/such/folder",
+                             "bench -n 0", "save", "save -o beam.json", "save a.kvel -o b.kvel", "dump",
+                             "dump beam.json", "plot", "plot -o x --size 10x10", "plot -o x --size wide"}) {
+        std::istringstream words(line);
+        const CliRun r = run({std::istream_iterator<std::string>(words), {}});
+        EXPECT_EQ(r.exit, 2) << line;
+        EXPECT_FALSE(r.err.empty()) << line;
     }
     // Asked for, the usage is the answer and goes to the output.
-    const CliRun help = run("--help");
+    const CliRun help = run({"--help"});
     EXPECT_EQ(help.exit, 0);
     EXPECT_EQ(help.out.rfind("usage: kvelder-cli calc", 0), 0U) << help.out;
     EXPECT_TRUE(help.err.empty());
 }
 
-TEST(CliCalc, MissingDataFilesAreReportedAndTheShippedOnesUsed)
+TEST(CliCalc, DataFoldersMissingFilesOrFromWindows)
 {
+    // Missing files are reported and the shipped ones used.
     const fs::path empty = scratch_folder() / "empty_data";
     fs::create_directories(empty);
-    const CliRun r = run("calc --data-dir '" + empty.string() + "'");
+    CliRun r = run({"calc", "--data-dir", empty.string()});
     EXPECT_EQ(r.exit, 0);
     for (const char* file : {"EC5Material.csv", "EC5Profile.csv", "Kveldersetup.csv"}) {
         EXPECT_NE(r.err.find((empty / file).string()), std::string::npos) << file;
     }
     EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30c");
-}
 
-// A catalogue saved on Windows holds its names in Windows-1252; they read as
-// the same letters in the results and in a description.
-TEST(CliCalc, ACatalogueFromWindowsKeepsItsLetters)
-{
-    const fs::path folder = scratch_folder() / "windows_data";
-    fs::create_directories(folder);
-    for (const char* file : {"EC5Profile.csv", "Kveldersetup.csv"}) {
-        fs::copy_file(source_data_dir() / file, folder / file, fs::copy_options::overwrite_existing);
-    }
-    std::string materials = file_text(source_data_dir() / "EC5Material.csv");
-    materials.replace(materials.find("GL30c;"), 6, "GL30\xF8;");
-    std::ofstream(folder / "EC5Material.csv", std::ios::binary) << materials;
-    const std::string data = " --data-dir '" + folder.string() + "'";
-
-    CliRun r = run("calc" + data);
+    // A catalogue saved on Windows holds its names in Windows-1252; they read as
+    // the same letters in the results and in a description.
+    const std::string windows = data_folder("windows_data", "GL30c;", "GL30\xF8;");
+    r = run({"calc", "--data-dir", windows});
     ASSERT_EQ(r.exit, 0) << r.err;
     EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30\u00f8");
-    r = run("calc " + description("by_name.json", R"({"material": "GL30\u00f8"})") + data);
+    r = run({"calc", description("by_name.json", R"({"material": "GL30\u00f8"})"), "--data-dir", windows});
     EXPECT_EQ(r.exit, 0) << r.err;
 }
 
 TEST(CliOutput, TextAndBench)
 {
-    CliRun r = run("calc --text");
+    CliRun r = run({"calc", "--text"});
     EXPECT_EQ(r.exit, 0);
     EXPECT_NE(r.out.find("Material GL30c"), std::string::npos);
     EXPECT_NE(r.out.find("1.97*"), std::string::npos) << r.out; // the middle support's bearing overrun
 
-    r = run("bench -n 5");
+    r = run({"bench", "-n", "5"});
     ASSERT_EQ(r.exit, 0) << r.err;
     const json line = json::parse(r.out);
     EXPECT_EQ(line["runs"], 5);
@@ -213,131 +208,85 @@ constexpr const char* kProjectBeam = R"({
   "vipping_off": false, "l_stag": [2.0, 2.5, 3.2], "lef_factor": [0.9, 1.0, 0.8], "load_location": 1
 })";
 
+// Saved, recalculated from the project and dumped back, each beam gives the
+// results of its description; the dump names what the description named.
 TEST(CliProject, ASavedBeamRecalculatesAndDumpsToTheSameBeam)
 {
-    const std::string beam = description("project_beam.json", kProjectBeam);
-    const fs::path project = scratch_folder() / "project_beam.kvel";
-    const CliRun saved = run("save " + beam + " -o '" + project.string() + "'");
-    ASSERT_EQ(saved.exit, 0) << saved.err;
-
-    const CliRun from_description = run("calc " + beam);
-    ASSERT_EQ(from_description.exit, 0) << from_description.err;
-    const CliRun from_project = run("calc '" + project.string() + "'");
-    ASSERT_EQ(from_project.exit, 0) << from_project.err;
-    EXPECT_EQ(json::parse(from_project.out), json::parse(from_description.out));
-
-    const CliRun dumped = run("dump '" + project.string() + "'");
-    ASSERT_EQ(dumped.exit, 0) << dumped.err;
-    EXPECT_TRUE(dumped.err.empty()) << dumped.err; // same data folder, nothing to note
-    const json back = json::parse(dumped.out);
-    const json given = json::parse(kProjectBeam);
-    for (const auto& [key, value] : given.items()) {
-        if (key == "material") {
-            EXPECT_EQ(back["material_row"], 23) << "GL28c is row 23 of the shipped catalogue";
-        } else {
-            EXPECT_EQ(back[key], value) << key;
-        }
-    }
-    const CliRun from_dump = run("calc " + description("dumped.json", dumped.out));
-    ASSERT_EQ(from_dump.exit, 0) << from_dump.err;
-    EXPECT_EQ(json::parse(from_dump.out), json::parse(from_description.out));
-
-    // A catalogue edited after saving changes nothing of the project, and the
-    // dump says that its description refers to the edited one.
-    const fs::path edited = scratch_folder() / "edited_data";
-    fs::create_directories(edited);
-    for (const char* file : {"EC5Profile.csv", "Kveldersetup.csv"}) {
-        fs::copy_file(source_data_dir() / file, edited / file, fs::copy_options::overwrite_existing);
-    }
-    std::ifstream in(source_data_dir() / "EC5Material.csv", std::ios::binary);
-    std::string materials((std::istreambuf_iterator<char>(in)), {});
-    materials.replace(materials.find("GL28c;EN 14080;S;28"), 19, "GL28c;EN 14080;S;31");
-    std::ofstream(edited / "EC5Material.csv", std::ios::binary) << materials;
-    const std::string edited_dir = " --data-dir '" + edited.string() + "'";
-    const CliRun with_edited = run("calc '" + project.string() + "'" + edited_dir);
-    EXPECT_EQ(json::parse(with_edited.out), json::parse(from_description.out));
-    const CliRun noted = run("dump '" + project.string() + "'" + edited_dir);
-    EXPECT_NE(noted.err.find("its own material catalogue"), std::string::npos) << noted.err;
-}
-
-TEST(CliProject, FreeSectionsDumpAsTheyWereDescribed)
-{
     for (const char* text :
-         {R"({"prof_type_index": 0, "section_b": 98.0, "section_h": 223.0, "material": "C24"})",
+         {kProjectBeam, R"({"prof_type_index": 0, "section_b": 98.0, "section_h": 223.0, "material": "C24"})",
           R"({"section_form": "Tube", "section_d": 315.0})"}) {
-        const fs::path project = scratch_folder() / "free.kvel";
-        ASSERT_EQ(run("save " + description("free.json", text) + " -o '" + project.string() + "'").exit, 0);
-        const json back = json::parse(run("dump '" + project.string() + "'").out);
+        const std::string beam = description("project_beam.json", text);
+        const std::string project = scratch("project_beam.kvel");
+        const CliRun saved = run({"save", beam, "-o", project});
+        ASSERT_EQ(saved.exit, 0) << saved.err;
+        const CliRun from_description = run({"calc", beam});
+        ASSERT_EQ(from_description.exit, 0) << from_description.err;
+        EXPECT_EQ(json::parse(run({"calc", project}).out), json::parse(from_description.out)) << text;
+
+        const CliRun dumped = run({"dump", project});
+        ASSERT_EQ(dumped.exit, 0) << dumped.err;
+        EXPECT_TRUE(dumped.err.empty()) << dumped.err; // same data folder, nothing to note
+        const json back = json::parse(dumped.out);
         const json given = json::parse(text);
         for (const auto& [key, value] : given.items()) {
             if (key != "material") {
                 EXPECT_EQ(back[key], value) << key;
             }
         }
+        const CliRun from_dump = run({"calc", description("dumped.json", dumped.out)});
+        EXPECT_EQ(json::parse(from_dump.out), json::parse(from_description.out)) << from_dump.err;
     }
+    const std::string project = scratch("project_beam.kvel");
+    ASSERT_EQ(run({"save", description("project_beam.json", kProjectBeam), "-o", project}).exit, 0);
+    const CliRun from_project = run({"calc", project});
+    EXPECT_EQ(json::parse(run({"dump", project}).out)["material_row"], 23) << "GL28c is row 23";
+
+    // A catalogue edited after saving changes nothing of the project, and the
+    // dump says that its description refers to the edited one.
+    const std::string edited = data_folder("edited_data", "GL28c;EN 14080;S;28", "GL28c;EN 14080;S;31");
+    const CliRun with_edited = run({"calc", project, "--data-dir", edited});
+    EXPECT_EQ(json::parse(with_edited.out), json::parse(from_project.out));
+    const CliRun noted = run({"dump", project, "--data-dir", edited});
+    EXPECT_NE(noted.err.find("its own material catalogue"), std::string::npos) << noted.err;
 }
 
 TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
 {
-    const fs::path garbage = scratch_folder() / "garbage.kvel";
+    const std::string garbage = scratch("garbage.kvel");
     std::ofstream(garbage) << "not a project at all";
-    CliRun r = run("calc '" + garbage.string() + "'");
+    CliRun r = run({"calc", garbage});
     EXPECT_EQ(r.exit, 2);
     EXPECT_NE(r.err.find("Input file not compatible with Ferrelt Version  1.3.0 (the file ends"),
               std::string::npos)
         << r.err;
 
-    for (const char* args :
-         {"save", "save -o beam.json", "dump", "dump beam.json", "save a.kvel -o b.kvel"}) {
-        EXPECT_EQ(run(args).exit, 2) << args;
-    }
-
-    r = run("save -o /no/such/folder/x.kvel");
+    r = run({"save", "-o", "/no/such/folder/x.kvel"});
     EXPECT_EQ(r.exit, 2);
     EXPECT_NE(r.err.find("Can't save /no/such/folder/x.kvel"), std::string::npos) << r.err;
 
     // A beam that fails its checks is not saved.
-    const fs::path refused = scratch_folder() / "refused.kvel";
-    r = run("save " + description("zero.json", R"({"nf": 2, "ffl_s": [5.0, 0.0]})") + " -o '" +
-            refused.string() + "'");
+    const std::string refused = scratch("refused.kvel");
+    r = run({"save", description("zero.json", R"({"nf": 2, "ffl_s": [5.0, 0.0]})"), "-o", refused});
     EXPECT_EQ(r.exit, 1);
     EXPECT_FALSE(fs::exists(refused));
-}
-
-// The width and height a PNG file's header gives.
-std::pair<int, int> png_size(const fs::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    std::array<unsigned char, 24> head{};
-    in.read(reinterpret_cast<char*>(head.data()), head.size());
-    const auto be32 = [&](std::size_t at) {
-        return head[at] << 24 | head[at + 1] << 16 | head[at + 2] << 8 | head[at + 3];
-    };
-    return {be32(16), be32(20)};
 }
 
 TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
 {
     const fs::path folder = scratch_folder() / "pictures";
-    CliRun r = run("plot -o '" + folder.string() + "' --size 640x240");
+    const CliRun r = run({"plot", "-o", folder.string(), "--size", "640x240"});
     ASSERT_EQ(r.exit, 0) << r.err;
     for (const char* name :
          {"Picfelt", "Picegenlast", "Picnyttelast", "Picnyttelast_2", "Picresult", "Picdisp"}) {
-        EXPECT_EQ(png_size(folder / (std::string(name) + ".png")), std::make_pair(640, 240)) << name;
+        const QString png = QString::fromStdString((folder / (std::string(name) + ".png")).string());
+        EXPECT_EQ(QImageReader(png, "png").size(), QSize(640, 240)) << name;
     }
-}
 
-TEST(CliPlot, WrongRequestsExitTwo)
-{
-    for (const char* args :
-         {"plot", "plot -o x --size 10x10", "plot -o x --size wide", "calc --size 100x100"}) {
-        EXPECT_EQ(run(args).exit, 2) << args;
-    }
-    const fs::path blocked = scratch_folder() / "blocked";
+    const std::string blocked = scratch("blocked");
     std::ofstream(blocked) << "a file where the folder should be";
-    const CliRun r = run("plot -o '" + blocked.string() + "'");
-    EXPECT_EQ(r.exit, 2);
-    EXPECT_NE(r.err.find("no folder"), std::string::npos) << r.err;
+    const CliRun refused = run({"plot", "-o", blocked});
+    EXPECT_EQ(refused.exit, 2);
+    EXPECT_NE(refused.err.find("no folder"), std::string::npos) << refused.err;
 }
 
 // The results and both trace files of a set of beams, kept from before the
@@ -356,7 +305,7 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
         const std::string name = entry.path().stem().string();
         const fs::path folder = scratch_folder() / "golden" / name;
         fs::remove_all(folder);
-        const CliRun r = run("calc '" + entry.path().string() + "'", folder);
+        const CliRun r = run({"calc", entry.path().string()}, folder);
         EXPECT_EQ(r.exit, name == "refused" ? 1 : 0) << name;
         EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
         for (const char* trace : {"Resultater", "Geometri"}) {
@@ -380,27 +329,14 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
 // neither a buckling check nor a bearing check.
 TEST(CliCalc, AFamilyThenACircleCalculatesTheCircle)
 {
-    const CliRun r = run("calc " + description("family_circle.json", R"({"prof_type_index": 0,
-        "section_form": "Tube", "section_d": 240, "vipping_off": false})"));
+    const CliRun r = run({"calc", description("family_circle.json", R"({"prof_type_index": 0,
+        "section_form": "Tube", "section_d": 240, "vipping_off": false})")});
     ASSERT_EQ(r.exit, 0) << r.err;
     const json result = json::parse(r.out);
     EXPECT_EQ(result["section"]["section_form"], "Tube");
     EXPECT_EQ(result["section"]["d"], 240.0);
-    EXPECT_EQ(result["section"]["Azz"].get<float>(), f32(120.0 * 120 * 3.14 * 0.5));
     EXPECT_TRUE(result["checks"][0]["Uf_ltb"].is_null());
     EXPECT_FALSE(result["bearing"][1].contains("Uf_c90"));
-}
-
-TEST(CliCalc, ADescriptionThatIsRefusedChangesNothing)
-{
-    auto m = example_beam();
-    const auto before = std::make_unique<Model>(*m);
-    const auto failed = cli::apply_description(
-        *m,
-        json::parse(R"({"ffl_s": [3.0, 4.0, 5.0], "nsupLeft_s": "I", "section_b": 90, "material": "C99"})"));
-    ASSERT_TRUE(failed);
-    EXPECT_NE(failed->find("\"material\""), std::string::npos) << *failed;
-    EXPECT_TRUE(*m == *before);
 }
 
 // The program itself, once: what main adds to run_cli is the data folder it

@@ -3,7 +3,6 @@
 #include "drawing/load_plot.h"
 #include "drawing/result_plot.h"
 #include "files/number_format.h"
-#include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 
 #include <gtest/gtest.h>
@@ -21,14 +20,6 @@ std::vector<std::string> texts(const CurveMarks& marks)
         out.push_back(t.text);
     }
     return out;
-}
-
-std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
-{
-    RecordingScreen screen;
-    MainCalc(*m, screen, scratch_folder());
-    EXPECT_TRUE(screen.messages.empty());
-    return m;
 }
 
 CurveMarks marks_of(const Model& m, Diagram d, bool upper)
@@ -81,17 +72,18 @@ TEST(ResultLabels, MomentPeaksEndsAndZeroCrossings)
     EXPECT_EQ(marks.strokes.size(), 2U + 2U); // two drop lines, two crossing ticks
 }
 
-TEST(ResultLabels, PeaksOnlyInASpanThatCarriesALoadOrItsOwnWeight)
+// Curves of known values on a beam of two spans of 4 m.
+TEST(ResultLabels, PeaksOnlyInALoadedSpanAndShearEndsOnlyAboveTheThreshold)
 {
     auto m = make_beam({4.0F, 4.0F});
     recalculate(*m);
-    // A sagging peak in the middle of span 2.
-    Table2<float, kMaxSpans, kMaxPoints> v;
+    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
+    Table2<float, kMaxSpans, kMaxPoints> v, shear;
     for (int k = 1; k <= m->nxtot_s(2); ++k) {
         const float x = m->xl_s(2, k);
-        v(2, k) = -x * (4.0F - x);
+        v(2, k) = -x * (4.0F - x); // a sagging peak in the middle of span 2
+        shear(2, k) = 0.05F;
     }
-    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
     const auto labels = [&] {
         return texts(curve_marks(*m, Diagram::Moment, v, false, c, screen_place(Diagram::Moment, 4.0F)));
     };
@@ -101,6 +93,14 @@ TEST(ResultLabels, PeaksOnlyInASpanThatCarriesALoadOrItsOwnWeight)
     m->profile_weight_on = kFalse;
     add_point(m->Q2, 2, 1.0F, 2.0F);
     EXPECT_EQ(labels(), std::vector<std::string>{"-4.0"});
+
+    shear(2, 2) = 3.0F; // the right end
+    const DiagramPlace place = screen_place(Diagram::Shear, 3.0F);
+    const CurveMarks marks = curve_marks(*m, Diagram::Shear, shear, true, c, place);
+    EXPECT_EQ(texts(marks), std::vector<std::string>{"3.0"});
+    EXPECT_FLOAT_EQ(marks.texts[0].x, 98.0F - 5);
+    // The lower curve labels only values below 0.
+    EXPECT_TRUE(curve_marks(*m, Diagram::Shear, shear, false, c, place).texts.empty());
 }
 
 TEST(ResultLabels, ACantileverShowsItsDeflectionAsAPartOfItsLength)
@@ -119,34 +119,6 @@ TEST(ResultLabels, ACantileverShowsItsDeflectionAsAPartOfItsLength)
     EXPECT_TRUE(std::any_of(marks.strokes.begin(), marks.strokes.end(),
                             [](const DiagramStroke& s) { return s.x1 == 98.0F && s.y1 == 60.0F; }));
     EXPECT_TRUE(texts(marks_of(*m, Diagram::Deflection, true)).empty()); // nothing rises
-}
-
-TEST(ResultLabels, ShearEndsBelowTheThresholdAreNotLabelled)
-{
-    auto m = make_beam({4.0F});
-    recalculate(*m);
-    Table2<float, kMaxSpans, kMaxPoints> v;
-    const int n = m->nxtot_s(1);
-    for (int k = 1; k <= n; ++k) {
-        v(1, k) = 0.05F;
-    }
-    v(1, 2) = 3.0F; // the right end
-    const SpanColumns c = PlotSpanWidths(*m, 2.0F, 96.0F);
-    const CurveMarks marks = curve_marks(*m, Diagram::Shear, v, true, c, screen_place(Diagram::Shear, 3.0F));
-    EXPECT_EQ(texts(marks), std::vector<std::string>{"3.0"});
-    EXPECT_FLOAT_EQ(marks.texts[0].x, 98.0F - 5);
-    const CurveMarks none = curve_marks(*m, Diagram::Shear, v, false, c, screen_place(Diagram::Shear, 3.0F));
-    EXPECT_TRUE(none.texts.empty()); // the lower curve labels only values below 0
-}
-
-TEST(ResultLabels, CurvesRunLeftToRight)
-{
-    auto m = make_beam({4.0F});
-    recalculate(*m);
-    const SpanCurve c = span_curve(*m, m->xl_s, 1);
-    ASSERT_EQ(c.x.size(), static_cast<std::size_t>(m->nxtot_s(1)));
-    EXPECT_TRUE(std::is_sorted(c.x.begin(), c.x.end()));
-    EXPECT_EQ(c.x.back(), 4.0F);
 }
 
 } // namespace

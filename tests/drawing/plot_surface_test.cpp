@@ -10,39 +10,17 @@
 namespace kvelder::test {
 namespace {
 
-QImage blank(int w = 400, int h = 200)
+TEST(PlotSurface, TheCursorKeepsItsPlaceAcrossScalesAndPrintMovesItDown)
 {
-    QImage image(w, h, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    return image;
-}
-
-TEST(PlotSurface, PercentScaleWithYUp)
-{
-    QImage image = blank();
-    {
-        PlotSurface s(image);
-        SetPlotScale(s, 0, 100, 100, 0);
-        EXPECT_EQ(s.ScaleHeight(), -100.0F);
-        s.SetDrawWidth(1);
-        s.Line(0, 1, 100, 1, RGB(255, 0, 0));    // near the bottom edge
-        s.Line(25, 50, 25, 100, RGB(0, 0, 255)); // from the middle up, a quarter in
-        EXPECT_FLOAT_EQ(s.CurrentX(), 25.0F);    // a line leaves the cursor at its end
-        EXPECT_FLOAT_EQ(s.CurrentY(), 100.0F);
-    }
-    EXPECT_EQ(image.pixelColor(200, 198), QColor(255, 0, 0));
-    EXPECT_EQ(image.pixelColor(100, 50), QColor(0, 0, 255));
-    EXPECT_EQ(image.pixelColor(100, 150), QColor(Qt::white)); // below the middle: nothing
-}
-
-TEST(PlotSurface, PixelModeDropsTheUserScaleAndKeepsTheCursorsPlace)
-{
-    QImage image = blank();
+    QImage image(400, 200, QImage::Format_RGB32);
     PlotSurface s(image);
     SetPlotScale(s, 0, 100, 100, 0);
+    s.Line(10, 20, 25, 100); // a line leaves the cursor at its end
+    EXPECT_FLOAT_EQ(s.CurrentX(), 25.0F);
+    EXPECT_FLOAT_EQ(s.CurrentY(), 100.0F);
     s.SetCurrentX(50);
     s.SetCurrentY(25);
-    s.SetScaleMode(ScaleMode::Pixel);
+    s.SetScaleMode(ScaleMode::Pixel); // drops the user scale
     EXPECT_EQ(s.ScaleWidth(), 400.0F);
     EXPECT_EQ(s.ScaleHeight(), 200.0F);
     EXPECT_FLOAT_EQ(s.CurrentX(), 200.0F); // the same place, read in pixels
@@ -50,16 +28,10 @@ TEST(PlotSurface, PixelModeDropsTheUserScaleAndKeepsTheCursorsPlace)
     const PercentUnits u = GetPercentUnits(s);
     EXPECT_FLOAT_EQ(u.width_unit, 4.0F);
     EXPECT_FLOAT_EQ(u.height_unit, 2.0F);
-    SetPlotScale(s, 0, 100, 100, 0); // and back
+
+    SetPlotScale(s, 0, 100, 100, 0);
     EXPECT_FLOAT_EQ(s.CurrentX(), 50.0F);
     EXPECT_FLOAT_EQ(s.CurrentY(), 25.0F);
-}
-
-TEST(PlotSurface, PrintMovesToTheNextLineAndTextHasWidth)
-{
-    QImage image = blank();
-    PlotSurface s(image);
-    SetPlotScale(s, 0, 100, 100, 0);
     s.SetFontName("Arial");
     s.SetFontSize(9);
     s.SetCurrentX(10);
@@ -68,40 +40,47 @@ TEST(PlotSurface, PrintMovesToTheNextLineAndTextHasWidth)
     EXPECT_FLOAT_EQ(s.CurrentX(), 0.0F);
     EXPECT_NEAR(s.CurrentY(), 90.0F - s.TextHeight(), 1e-4);
     EXPECT_GT(s.TextWidth("Permanent load (G):"), s.TextWidth("G"));
-    // Text sits below the cursor: the top rows of the picture stay white.
-    bool ink_below = false;
-    for (int x = 40; x < 200 && !ink_below; ++x) {
-        for (int y = 21; y < 40; ++y) {
-            ink_below = ink_below || image.pixelColor(x, y) != QColor(Qt::white);
+}
+
+TEST(PlotSurface, LinesTextPolygonsBoxesAndArcsLandWhereTheScaleSays)
+{
+    QImage image(400, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    const auto ink_in = [&](int x0, int x1, int y0, int y1) {
+        for (int x = x0; x < x1; ++x) {
+            for (int y = y0; y < y1; ++y) {
+                if (image.pixelColor(x, y) != QColor(Qt::white)) {
+                    return true;
+                }
+            }
         }
-    }
-    EXPECT_TRUE(ink_below);
-    for (int x = 0; x < 400; ++x) {
-        ASSERT_EQ(image.pixelColor(x, 18), QColor(Qt::white)) << x;
-    }
-}
-
-TEST(PlotSurface, PolygonsFillInDevicePixelsWhateverTheScale)
-{
-    QImage image = blank();
-    {
-        PlotSurface s(image);
-        SetPlotScale(s, 0, 100, 100, 0);
-        s.SetFillColor(0xC0C0C0);
-        s.SetForeColor(0);
-        const PixelPoint band[] = {{10, 10}, {110, 10}, {110, 60}, {10, 60}};
-        s.Polygon(band);
-    }
-    EXPECT_EQ(image.pixelColor(60, 35), QColor(0xC0, 0xC0, 0xC0));
-    EXPECT_EQ(image.pixelColor(10, 35), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(150, 35), QColor(Qt::white));
-}
-
-TEST(PlotSurface, BoxesArcsAndClearing)
-{
-    QImage image = blank();
+        return false;
+    };
     PlotSurface s(image);
-    SetPlotScale(s, 0, 100, 100, 0);
+    SetPlotScale(s, 0, 100, 100, 0); // percent, y up
+    // Text sits below the cursor: the rows above it stay white.
+    s.SetCurrentX(10);
+    s.SetCurrentY(90);
+    s.Print("Permanent load (G):");
+    EXPECT_TRUE(ink_in(40, 200, 21, 40));
+    EXPECT_FALSE(ink_in(0, 400, 18, 19));
+
+    s.SetDrawWidth(1);
+    s.Line(0, 1, 100, 1, RGB(255, 0, 0));    // near the bottom edge
+    s.Line(25, 50, 25, 100, RGB(0, 0, 255)); // from the middle up, a quarter in
+    EXPECT_EQ(image.pixelColor(200, 198), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(100, 50), QColor(0, 0, 255));
+    EXPECT_EQ(image.pixelColor(100, 150), QColor(Qt::white)); // below the middle: nothing
+
+    // Polygons are in device pixels whatever the scale.
+    s.SetFillColor(0xC0C0C0);
+    s.SetForeColor(0);
+    const PixelPoint band[] = {{110, 110}, {210, 110}, {210, 160}, {110, 160}};
+    s.Polygon(band);
+    EXPECT_EQ(image.pixelColor(160, 135), QColor(0xC0, 0xC0, 0xC0));
+    EXPECT_EQ(image.pixelColor(110, 135), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(250, 135), QColor(Qt::white));
+
     s.SetFillStyle(FillStyle::Solid);
     s.SetFillColor(255);
     s.Line(10, 10, 30, 20, 255, true);
@@ -111,7 +90,7 @@ TEST(PlotSurface, BoxesArcsAndClearing)
     EXPECT_EQ(image.pixelColor(300, 60), QColor(Qt::black));
     EXPECT_EQ(image.pixelColor(300, 140), QColor(Qt::white));
     s.Cls();
-    EXPECT_EQ(image.pixelColor(80, 170), QColor(Qt::white));
+    EXPECT_FALSE(ink_in(0, 400, 0, 200));
 }
 
 TEST(PlotScale, SpanColumnsShareTheWidthByLength)
@@ -124,9 +103,6 @@ TEST(PlotScale, SpanColumnsShareTheWidthByLength)
     EXPECT_FLOAT_EQ(c.at(2, 3.0F), 62.0F);
     EXPECT_FLOAT_EQ(c.end(2), 98.0F);
 
-    auto one = make_beam({7.5F});
-    EXPECT_FLOAT_EQ(PlotSpanWidths(*one, 2.0F, 96.0F).width[0], 96.0F);
-
     auto none = make_beam({0.0F});
     const SpanColumns empty = PlotSpanWidths(*none, 2.0F, 96.0F);
     EXPECT_EQ(empty.per_metre, 0.0F); // no division by a length of 0
@@ -135,8 +111,6 @@ TEST(PlotScale, SpanColumnsShareTheWidthByLength)
 
 TEST(PlotScale, ArrowHeadsAreALittleTallerThanWide)
 {
-    EXPECT_EQ(ArrowHeight(4), 4);
-    EXPECT_EQ(ArrowHeight(6), 6);
     EXPECT_EQ(ArrowHeight(8), 8);
     EXPECT_EQ(ArrowHeight(20), 21); // 1.0471 x 20
     const auto down = ArrowHead(6, true);
@@ -145,7 +119,6 @@ TEST(PlotScale, ArrowHeadsAreALittleTallerThanWide)
     EXPECT_EQ(down[1].x, 6);
     EXPECT_EQ(down[2].y, 0);
     const auto up = ArrowHead(8, false);
-    EXPECT_EQ(up[0].x, 4);
     EXPECT_EQ(up[0].y, 0);
     EXPECT_EQ(up[2].y, 8);
 }

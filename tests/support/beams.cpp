@@ -2,7 +2,10 @@
 
 #include "analysis/points.h"
 #include "files/start_values.h"
+#include "recalc/main_calc.h"
 #include "recalc/run_analysis.h"
+
+#include <gtest/gtest.h>
 
 #include <unistd.h>
 
@@ -110,6 +113,14 @@ void recalculate(Model& m)
 std::filesystem::path source_data_dir()
 {
     return KVELDER_SOURCE_DATA_DIR;
+}
+
+std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
+{
+    RecordingScreen screen;
+    MainCalc(*m, screen, scratch_folder());
+    EXPECT_TRUE(screen.messages.empty());
+    return m;
 }
 
 std::unique_ptr<Model> example_beam()

@@ -48,6 +48,9 @@ std::unique_ptr<Model> loaded_beam();
 // at the right, with G 2.0 kN/m and no variable load.
 std::unique_ptr<Model> cantilever(float length);
 
+// The beam after the window's recalculation, which must pass without a message.
+std::unique_ptr<Model> calculated(std::unique_ptr<Model> m);
+
 // The data folder of the source tree.
 std::filesystem::path source_data_dir();
 
