@@ -193,16 +193,18 @@ TEST(CliOutput, TextAndBench)
     EXPECT_LE(line["min_us"].get<double>(), line["median_us"].get<double>());
 }
 
-// A beam with loads in every table but the moment rows of Q1 and Q2, whose
-// span numbers a project file does not give back to the model.
+// A beam with loads in every table. A project file gives the span numbers of
+// the moment rows of Q1 and Q2 only to the load dialogs' texts, which the
+// beam is read from.
 constexpr const char* kProjectBeam = R"({
   "prosjekt_s": "Lager \u00c5s", "id_s": "B3",
   "nf": 3, "ffl_s": [4.0, 5.5, 3.2], "nsupLeft_s": "I", "nsupRight_s": "F",
   "comb_rule": "610b", "loadcomb_option": 2, "profile_weight_on": true,
   "G": {"uni": [[1, 2.5], [3, 1.5]], "trap": [[2, 1.0, 2.0, 0.5, 3.5]], "pt": [[1, 10.0, 2.0]],
         "mom": [[3, 5.0, 1.0]]},
-  "Q1": {"uni": [[2, 4.0]], "trap": [[1, 3.0, 0.0, 0.0, 4.0]], "pt": [[3, 7.5, 3.0], [1, 2.0, 1.0]]},
-  "Q2": {"uni": [[3, 0.75]], "pt": [[2, 4.0, 2.0]]},
+  "Q1": {"uni": [[2, 4.0]], "trap": [[1, 3.0, 0.0, 0.0, 4.0]], "pt": [[3, 7.5, 3.0], [1, 2.0, 1.0]],
+         "mom": [[2, 3.0, 2.5]]},
+  "Q2": {"uni": [[3, 0.75]], "pt": [[2, 4.0, 2.0]], "mom": [[1, -2.0, 1.5]]},
   "material": "GL28c", "prof_type_index": 1, "prof_index": 40,
   "duration_class": 2, "service_class": 2, "ksys": 1.1, "psi0_1": 0.5, "safety_class": 3,
   "vipping_off": false, "l_stag": [2.0, 2.5, 3.2], "lef_factor": [0.9, 1.0, 0.8], "load_location": 1
