@@ -9,9 +9,6 @@
 
 namespace kvelder {
 
-// A project record with every text empty takes this many bytes.
-constexpr std::size_t kEmptyRecordBytes = 2448;
-
 // The six blocks of a project file. Throws std::length_error naming the field
 // when a text is too long for its count.
 std::vector<std::byte> encode_project(const ProjectFile& file);

@@ -75,6 +75,18 @@ TEST(MainCalc, RunsLeaveNothingBehindForTheNext)
     MainCalc(*m, screen, scratch_folder());
     EXPECT_TRUE(*m == *first);
 
+    // Lighter loads on the same beam: no envelope keeps a value of the heavier run.
+    const auto lighter = [](Model& beam) {
+        beam.Q1.pt_P(1) = 1.0F;
+        beam.Q1.mom_M(1) = -0.5F;
+    };
+    auto fresh = busy_beam();
+    lighter(*fresh);
+    MainCalc(*fresh, screen, scratch_folder());
+    lighter(*m);
+    MainCalc(*m, screen, scratch_folder());
+    EXPECT_TRUE(*m == *fresh);
+
     auto other = example_beam();
     add_point(other->G, 1, 80.0F, 1.3F);
     other->section_form = "Tube";
