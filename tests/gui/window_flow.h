@@ -108,14 +108,6 @@ inline std::string contents(const fs::path& path)
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-inline std::unique_ptr<Model> reopened(const fs::path& path)
-{
-    auto m = std::make_unique<Model>();
-    LoadDialogs dialogs{};
-    EXPECT_FALSE(ReadProject(*m, path, dialogs).has_value()) << path;
-    return m;
-}
-
 class MainWindowFlow : public ::testing::Test {
 protected:
     void SetUp() override
@@ -134,8 +126,6 @@ protected:
         const std::vector<DataFileNote> notes = start_up(*model, source_data_dir());
         dialogs = load_dialogs(*model);
         window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent, WindowFolders{{}, m_folder});
-        QObject::connect(window.get(), &MainWindow::recalculated,
-                         [this] { spans_at_runs.push_back(model->nf); });
         window->show();
         window->begin(notes, project);
         window->activateWindow();
@@ -230,7 +220,6 @@ protected:
     RecentFilesInMemory recent;
     std::unique_ptr<Model> model;
     LoadDialogs dialogs{};
-    std::vector<int> spans_at_runs; // nf at each recalculation
     std::unique_ptr<MainWindow> window;
 };
 

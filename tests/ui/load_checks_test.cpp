@@ -3,12 +3,13 @@
 
 #include "tests/support/beams.h"
 #include "ui/load_checks.h"
+#include "ui/load_dialog.h"
 
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <functional>
 #include <iterator>
+#include <vector>
 
 namespace kvelder::test {
 namespace {
@@ -16,75 +17,57 @@ namespace {
 struct Case {
     const char* what;
     LoadTable table;
-    std::function<void(Model&, LoadGroup&)> rows;
+    std::vector<LoadRow> rows; // the last of them fails
     int code_G;
     int code_Q; // the same row in the order of the variable groups
-    int row = 1;
+    char left = kSimple, right = kSimple;
 };
 
-// On the example beam: two spans of 5 m.
+constexpr LoadTable U = LoadTable::Uniform, T = LoadTable::Trapezoid, P = LoadTable::Point,
+                    M = LoadTable::Moment;
+
+// On the example beam: two spans of 5 m. Rows are a span and the values in
+// stored order (q; q1, q2, a, b; P, a; M, a).
 const Case kCases[] = {
-    {"span beyond the beam", LoadTable::Uniform, [](Model&, LoadGroup& g) { add_uniform(g, 3, 1); }, 116,
-     116},
-    {"second load on a span", LoadTable::Uniform,
-     [](Model&, LoadGroup& g) { add_uniform(g, 2, 1), add_uniform(g, 2, 1); }, 114, 114, 2},
-    {"no load", LoadTable::Uniform, [](Model&, LoadGroup& g) { add_uniform(g, 1, 0); }, 120, 120},
-    {"no load, second on its span", LoadTable::Uniform,
-     [](Model&, LoadGroup& g) { add_uniform(g, 1, 1), add_uniform(g, 1, 0); }, 114, 120, 2},
-    {"span number below 1", LoadTable::Uniform, [](Model&, LoadGroup& g) { add_uniform(g, 0, 1); }, 102, 102},
+    {"span beyond the beam", U, {{3, {1}}}, 116, 116},
+    {"second load on a span", U, {{2, {1}}, {2, {1}}}, 114, 114},
+    {"no load", U, {{1, {0}}}, 120, 120},
+    {"no load, second on its span", U, {{1, {1}}, {1, {0}}}, 114, 120},
+    {"span number below 1", U, {{0, {1}}}, 102, 102},
 
-    {"trapezoid beyond the beam", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 3, 1, 1, 0, 1); }, 137, 130},
-    {"b = 0", LoadTable::Trapezoid, [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 0, 0); }, 144, 144},
-    {"b = 0 without load", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 0, 0, 0, 0); }, 144, 150},
-    {"b beyond the span", LoadTable::Trapezoid, [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 1, 6); },
-     146, 146},
-    {"a beyond the span", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 5.5F, 4); }, 138, 138},
-    {"a beyond the span and b", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 5.5F, 6); }, 146, 138},
-    {"a > b", LoadTable::Trapezoid, [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 3, 2); }, 140, 140},
-    {"a = b", LoadTable::Trapezoid, [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 2, 2); }, 142, 142},
-    {"overlap", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, 1, 0, 3), add_trapezoid(g, 1, 1, 1, 2, 4); }, 148, 148,
-     2},
-    {"end to end is no overlap, another span neither", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) {
-         add_trapezoid(g, 1, 1, 1, 0, 3), add_trapezoid(g, 1, 1, 1, 3, 5), add_trapezoid(g, 2, 1, 1, 0, 3);
-         add_trapezoid(g, 2, 0, 0, 4, 5);
-     },
-     150, 150, 4},
-    {"two signs", LoadTable::Trapezoid, [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, -1, 0, 2); }, 152,
-     152},
-    {"two signs and a > b", LoadTable::Trapezoid,
-     [](Model&, LoadGroup& g) { add_trapezoid(g, 1, 1, -1, 3, 2); }, 140, 152},
+    {"trapezoid beyond the beam", T, {{3, {1, 1, 0, 1}}}, 137, 130},
+    {"b = 0", T, {{1, {1, 1, 0, 0}}}, 144, 144},
+    {"b = 0 without load", T, {{1, {0, 0, 0, 0}}}, 144, 150},
+    {"b beyond the span", T, {{1, {1, 1, 1, 6}}}, 146, 146},
+    {"a beyond the span", T, {{1, {1, 1, 5.5F, 4}}}, 138, 138},
+    {"a beyond the span and b", T, {{1, {1, 1, 5.5F, 6}}}, 146, 138},
+    {"a > b", T, {{1, {1, 1, 3, 2}}}, 140, 140},
+    {"a = b", T, {{1, {1, 1, 2, 2}}}, 142, 142},
+    {"overlap", T, {{1, {1, 1, 0, 3}}, {1, {1, 1, 2, 4}}}, 148, 148},
+    {"end to end is no overlap, another span neither",
+     T,
+     {{1, {1, 1, 0, 3}}, {1, {1, 1, 3, 5}}, {2, {1, 1, 0, 3}}, {2, {0, 0, 4, 5}}},
+     150,
+     150},
+    {"two signs", T, {{1, {1, -1, 0, 2}}}, 152, 152},
+    {"two signs and a > b", T, {{1, {1, -1, 3, 2}}}, 140, 152},
 
-    {"point beyond the beam", LoadTable::Point, [](Model&, LoadGroup& g) { add_point(g, 3, 1, 1); }, 163,
-     163},
-    {"no point load", LoadTable::Point, [](Model&, LoadGroup& g) { add_point(g, 1, 0, 1); }, 172, 172},
-    {"c beyond the span", LoadTable::Point, [](Model&, LoadGroup& g) { add_point(g, 1, 1, 5.5F); }, 168, 168},
-    {"c = 0", LoadTable::Point, [](Model&, LoadGroup& g) { add_point(g, 2, 1, 0); }, 170, 170},
-    {"c = L", LoadTable::Point, [](Model&, LoadGroup& g) { add_point(g, 2, 1, 5); }, 170, 170},
-    {"same point", LoadTable::Point,
-     [](Model&, LoadGroup& g) { add_point(g, 1, 1, 2), add_point(g, 1, 2, 2); }, 174, 174, 2},
+    {"point beyond the beam", P, {{3, {1, 1}}}, 163, 163},
+    {"no point load", P, {{1, {0, 1}}}, 172, 172},
+    {"c beyond the span", P, {{1, {1, 5.5F}}}, 168, 168},
+    {"c = 0", P, {{2, {1, 0}}}, 170, 170},
+    {"c = L", P, {{2, {1, 5}}}, 170, 170},
+    {"same point", P, {{1, {1, 2}}, {1, {2, 2}}}, 174, 174},
 
-    {"moment beyond the beam", LoadTable::Moment, [](Model&, LoadGroup& g) { add_moment(g, 4, 1, 1); }, 184,
-     184},
-    {"no moment", LoadTable::Moment, [](Model&, LoadGroup& g) { add_moment(g, 1, 0, 1); }, 190, 190},
-    {"d beyond the span", LoadTable::Moment, [](Model&, LoadGroup& g) { add_moment(g, 1, 1, 6); }, 188, 188},
-    {"moment on a fixed left end", LoadTable::Moment,
-     [](Model& m, LoadGroup& g) { m.nsupLeft_s = kBuiltIn, add_moment(g, 1, 1, 0); }, 196, 196},
-    {"moment on a fixed right end", LoadTable::Moment,
-     [](Model& m, LoadGroup& g) { m.nsupRight_s = kBuiltIn, add_moment(g, 2, 1, 5); }, 196, 196},
-    {"moment at a simple end", LoadTable::Moment,
-     [](Model&, LoadGroup& g) { add_moment(g, 1, 1, 0), add_moment(g, 1, 0, 2); }, 190, 190, 2},
-    {"same moment point", LoadTable::Moment,
-     [](Model&, LoadGroup& g) { add_moment(g, 2, 1, 1), add_moment(g, 2, 3, 1); }, 192, 192, 2},
-    {"one support from two spans", LoadTable::Moment,
-     [](Model&, LoadGroup& g) { add_moment(g, 1, 1, 5), add_moment(g, 2, 3, 0); }, 194, 194, 2},
-    {"the same support from the right first", LoadTable::Moment,
-     [](Model&, LoadGroup& g) { add_moment(g, 2, 1, 0), add_moment(g, 1, 3, 5); }, 194, 194, 2},
+    {"moment beyond the beam", M, {{4, {1, 1}}}, 184, 184},
+    {"no moment", M, {{1, {0, 1}}}, 190, 190},
+    {"d beyond the span", M, {{1, {1, 6}}}, 188, 188},
+    {"moment on a fixed left end", M, {{1, {1, 0}}}, 196, 196, kBuiltIn},
+    {"moment on a fixed right end", M, {{2, {1, 5}}}, 196, 196, kSimple, kBuiltIn},
+    {"moment at a simple end", M, {{1, {1, 0}}, {1, {0, 2}}}, 190, 190},
+    {"same moment point", M, {{2, {1, 1}}, {2, {3, 1}}}, 192, 192},
+    {"one support from two spans", M, {{1, {1, 5}}, {2, {3, 0}}}, 194, 194},
+    {"the same support from the right first", M, {{2, {1, 0}}, {1, {3, 5}}}, 194, 194},
 };
 
 class LoadRowCode : public ::testing::TestWithParam<std::size_t> {};
@@ -93,15 +76,20 @@ class LoadRowCode : public ::testing::TestWithParam<std::size_t> {};
 TEST_P(LoadRowCode, IsRaisedInTheOrderOfItsGroup)
 {
     const Case& c = kCases[GetParam()];
+    const int n = static_cast<int>(c.rows.size());
     for (LoadGroupId id : {LoadGroupId::G, LoadGroupId::Q1, LoadGroupId::Q2}) {
         auto m = example_beam();
-        group_of(*m, id) = LoadGroup{};
-        c.rows(*m, group_of(*m, id));
+        m->nsupLeft_s = c.left, m->nsupRight_s = c.right;
+        LoadGroup& g = group_of(*m, id) = LoadGroup{};
+        for (int k = 1; k <= n; ++k) {
+            set_row(g, c.table, k, c.rows[static_cast<std::size_t>(k - 1)]);
+        }
+        set_row_count(g, c.table, n);
         const auto failure = check_load_table(*m, id, c.table);
         ASSERT_TRUE(failure.has_value()) << c.what;
         EXPECT_EQ(failure->code, id == LoadGroupId::G ? c.code_G : c.code_Q)
             << "group " << static_cast<int>(id);
-        EXPECT_EQ(failure->row, c.row);
+        EXPECT_EQ(failure->row, n);
     }
 }
 
@@ -149,6 +137,7 @@ TEST(LoadRowChecks, MessagesFollowTheLanguageWithTheirExceptions)
     EXPECT_FALSE(message("Eng", 130).has_value()); // silent in both
     EXPECT_FALSE(message("Nor", 130).has_value());
     EXPECT_EQ(message("Eng", 194)->text, "Moment loads defind on same the suppport between two span");
+    EXPECT_EQ(message("Nor", kSpanNotPositive)->text, "Lastfaktor er 0 or negativ ");
 }
 
 LoadDialogTexts dialog(std::vector<RowTexts> uniform, std::vector<RowTexts> points = {})
@@ -159,7 +148,7 @@ LoadDialogTexts dialog(std::vector<RowTexts> uniform, std::vector<RowTexts> poin
     return t;
 }
 
-TEST(ReadRows, PacksTheRowsAndChecksEachAsItIsStored)
+TEST(ReadRows, PacksAndConvertsTheRowsAndChecksEachAsItIsStored)
 {
     auto m = example_beam();
     LoadDialogTexts texts = dialog({{"1", "2,5"}, {"2", "1.5"}}, {{"2", "10", "2,5"}});
@@ -176,6 +165,14 @@ TEST(ReadRows, PacksTheRowsAndChecksEachAsItIsStored)
         ASSERT_TRUE(failure.has_value());
         EXPECT_EQ(failure->code, 112);
     }
+
+    // A box that is no number on a comma machine.
+    m->decimal_comma = 1;
+    texts = dialog({{"1", "2,5"}, {"2", "two"}});
+    const auto failure = ReadRows(*m, LoadGroupId::G, texts);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(*failure, (LoadRowFailure{LoadGroupId::G, LoadTable::Uniform, 2, 1, kNotANumber}));
+    EXPECT_EQ(failure_message("Eng", *failure)->text, "The text is not a number");
 }
 
 TEST(ReadRows, TheFirstFailureStoresItsRowAndLeavesTheLaterFramesAsTheyWere)
@@ -189,19 +186,6 @@ TEST(ReadRows, TheFirstFailureStoresItsRowAndLeavesTheLaterFramesAsTheyWere)
     EXPECT_EQ(m->G.uni_n, 2);
     EXPECT_EQ(m->G.pt_n, 1); // not read
     EXPECT_EQ(m->G.pt_P(1), 7.0F);
-}
-
-TEST(ReadRows, ABoxThatIsNoNumberFailsOnACommaMachine)
-{
-    auto m = example_beam();
-    m->decimal_comma = 1;
-    LoadDialogTexts texts = dialog({{"1", "2,5"}, {"2", "two"}});
-    const auto failure = ReadRows(*m, LoadGroupId::G, texts);
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->code, kNotANumber);
-    EXPECT_EQ(failure->row, 2);
-    EXPECT_EQ(failure->box, 1);
-    EXPECT_EQ(failure_message("Eng", *failure)->text, "The text is not a number");
 }
 
 TEST(ClipLoadsToSpans, DropsRowsThatStartBeyondTheirSpanAndEndsTrapezoidsAtIt)
@@ -221,6 +205,8 @@ TEST(ClipLoadsToSpans, DropsRowsThatStartBeyondTheirSpanAndEndsTrapezoidsAtIt)
     EXPECT_EQ(t.frames[2][1][0], "1");
     EXPECT_EQ(t.frames[2][2][0], "7"); // not a span of the beam: the reading will say so
     EXPECT_EQ(t.frames[3][0][0], "");
+    // The reading's second point row, should it fail, is the dialog's third.
+    EXPECT_EQ(dialog_row(t, LoadTable::Point, 2), 2);
 }
 
 } // namespace
