@@ -202,7 +202,7 @@ int dialog_row(const LoadDialogTexts& texts, LoadTable table, int row)
             return static_cast<int>(k);
         }
     }
-    return row - 1; // the rows were compacted since
+    return 0; // a row the reading never stored
 }
 
 } // namespace kvelder
