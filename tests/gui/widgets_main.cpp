@@ -26,7 +26,9 @@ void without_platform_notes(QtMsgType type, const QMessageLogContext& context, c
 
 int main(int argc, char** argv)
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication app(argc, argv);
     qt_messages = qInstallMessageHandler(without_platform_notes);
     QStandardPaths::setTestModeEnabled(true);
