@@ -229,9 +229,14 @@ std::string program_line(const std::string& language)
                                 : "Beregning av en bjelke if\u00f8lge EC5";
 }
 
+std::string version_number()
+{
+    return "1.3.0";
+}
+
 std::string version_line()
 {
-    return "Version  1.3.0";
+    return "Version  " + version_number();
 }
 
 } // namespace kvelder

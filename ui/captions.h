@@ -39,5 +39,6 @@ std::array<std::string, 4> family_names(const std::string& language);
 std::string program_title();
 std::string program_line(const std::string& language);
 std::string version_line();
+std::string version_number();
 
 } // namespace kvelder

@@ -17,8 +17,8 @@ namespace {
 // The floors, from the bottom up. A folder sees itself and the floors below,
 // but no other folder of its own floor.
 const std::map<std::string, int> kFloor{
-    {"model", 0}, {"analysis", 1}, {"design", 1},  {"files", 2}, {"combination", 3},
-    {"ui", 3},    {"recalc", 4},   {"drawing", 5}, {"gui", 6},   {"app", 7},
+    {"model", 0},  {"analysis", 1}, {"design", 1}, {"files", 2}, {"combination", 3}, {"ui", 3},
+    {"recalc", 4}, {"drawing", 5},  {"report", 6}, {"gui", 7},   {"app", 8},
 };
 
 // The floors of the core library, which links the standard library only.
