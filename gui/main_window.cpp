@@ -1,6 +1,7 @@
 #include "gui/main_window.h"
 
 #include "drawing/pictures.h"
+#include "drawing/plot_surface.h"
 #include "gui/captioning.h"
 #include "gui/factor_panel.h"
 #include "gui/input_box.h"
@@ -12,6 +13,8 @@
 #include "gui/section_panel.h"
 #include "gui/span_panel.h"
 #include "recalc/main_calc.h"
+#include "report/print_report.h"
+#include "report/report_pdf.h"
 #include "ui/captions.h"
 #include "ui/messages.h"
 
@@ -24,6 +27,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPrinter>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -209,8 +213,10 @@ void MainWindow::build_menu()
 
     QMenu* print = menuBar()->addMenu(QString());
     print->setObjectName("mnuutskrift");
-    item(print, "mnumax1", nullptr);
-    item(print, "mnumax2", nullptr);
+    item(print, "mnumax1", [this] { print_report(false); });
+    item(print, "mnumax2", [this] { print_report(true); });
+    print->addSeparator();
+    item(print, "mnupdf", [this] { save_report_pdf(); });
     for (const char* name : {"mnusetup", "mnuklasse"}) {
         QAction* a = menuBar()->addAction(QString());
         a->setObjectName(name);
@@ -391,6 +397,55 @@ void MainWindow::show_load_dialog(LoadGroupId id)
 {
     if (commit_focused_box()) {
         m_load_dialogs[static_cast<std::size_t>(id)]->open_rows();
+    }
+}
+
+bool MainWindow::may_report()
+{
+    if (!commit_focused_box()) {
+        return false;
+    }
+    if (data_missing(m_model) || is_true(m_model.err_load_item)) {
+        show_message(report_refused(m_model.language));
+        return false;
+    }
+    return true;
+}
+
+void MainWindow::print_report(bool detailed)
+{
+    if (!may_report()) {
+        return;
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    if (!m_prompter.choose_printer(this, printer)) {
+        return; // nothing printed, nothing said
+    }
+    // Once asked for, the detailed pages come with every later printout too.
+    m_print.detail_mode = m_print.detail_mode || detailed;
+    PlotSurface surface(printer);
+    PrintReport(surface, m_model, report_stamp(m_session.project_path), m_print);
+    surface.EndDoc();
+}
+
+void MainWindow::save_report_pdf()
+{
+    if (!may_report()) {
+        return;
+    }
+    const std::filesystem::path initial =
+        std::filesystem::path(m_session.project_path).replace_extension(".pdf");
+    const std::optional<QString> name =
+        m_prompter.pdf_file_name(this, QString::fromStdWString(initial.filename().wstring()));
+    if (!name) {
+        return;
+    }
+    std::filesystem::path file(name->toStdWString());
+    if (!file.has_extension()) {
+        file += ".pdf";
+    }
+    if (auto failed = write_report_pdf(m_model, file, report_stamp(m_session.project_path), m_print)) {
+        show_message(report_unwritten(m_model.language, *failed));
     }
 }
 

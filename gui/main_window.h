@@ -3,6 +3,7 @@
 #include "files/data_files.h"
 #include "files/recent_files.h"
 #include "gui/workspace.h"
+#include "report/print_report.h"
 #include "ui/captions.h"
 #include "ui/file_command.h"
 
@@ -85,6 +86,10 @@ private:
     void show_recent_files();
     // The box being edited takes its value first, as leaving it would.
     bool commit_focused_box();
+    // The box with the focus commits, and the results belong to the input.
+    bool may_report();
+    void print_report(bool detailed);
+    void save_report_pdf();
     // Asks about a changed beam; false when the engineer cancels.
     bool may_discard();
     void load(const std::function<std::optional<Message>()>& loader);
@@ -102,6 +107,7 @@ private:
     RecentFileStore& m_recent;
     WindowFolders m_folders;
     ProjectSession m_session;
+    PrintSession m_print;
 
     SpanPanel* m_spans = nullptr;
     SectionPanel* m_section = nullptr;

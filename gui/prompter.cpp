@@ -3,6 +3,8 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QUrl>
 
 namespace kvelder {
@@ -52,6 +54,21 @@ std::optional<QString> DialogPrompter::save_file_name(QWidget* parent, const QSt
 bool DialogPrompter::open_document(const QString& path)
 {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+bool DialogPrompter::choose_printer(QWidget* parent, QPrinter& printer)
+{
+    QPrintDialog dialog(&printer, parent);
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    return dialog.exec() == QDialog::Accepted && printer.isValid();
+}
+
+std::optional<QString> DialogPrompter::pdf_file_name(QWidget* parent, const QString& initial)
+{
+    const QString name =
+        QFileDialog::getSaveFileName(parent, QString(), initial, QStringLiteral("PDF (*.pdf)"));
+    return name.isEmpty() ? std::nullopt : std::optional<QString>(name);
 }
 
 void UnattendedPrompter::message(QWidget*, const QString& title, const QString& text, bool)

@@ -5,6 +5,7 @@
 #include <optional>
 #include <ostream>
 
+class QPrinter;
 class QWidget;
 
 namespace kvelder {
@@ -26,6 +27,11 @@ public:
     virtual std::optional<QString> save_file_name(QWidget* parent, const QString& initial) = 0;
     // Opens a document with the program the desktop has for it; false when it cannot.
     virtual bool open_document(const QString& path) = 0;
+    // The print dialog, without printing to a file or a selection; false when
+    // cancelled or when there is no printer.
+    virtual bool choose_printer(QWidget* parent, QPrinter& printer) = 0;
+    // A PDF file to write; none when cancelled. The dialog asks before overwriting.
+    virtual std::optional<QString> pdf_file_name(QWidget* parent, const QString& initial) = 0;
 };
 
 // The real boxes and dialogs of the desktop.
@@ -37,6 +43,8 @@ public:
     std::optional<QString> open_file_name(QWidget* parent, const QString& folder) override;
     std::optional<QString> save_file_name(QWidget* parent, const QString& initial) override;
     bool open_document(const QString& path) override;
+    bool choose_printer(QWidget* parent, QPrinter& printer) override;
+    std::optional<QString> pdf_file_name(QWidget* parent, const QString& initial) override;
 };
 
 // Answers no one sits at the window to give: every question is cancelled and
@@ -50,6 +58,8 @@ public:
     std::optional<QString> open_file_name(QWidget*, const QString&) override { return std::nullopt; }
     std::optional<QString> save_file_name(QWidget*, const QString&) override { return std::nullopt; }
     bool open_document(const QString&) override { return false; }
+    bool choose_printer(QWidget*, QPrinter&) override { return false; }
+    std::optional<QString> pdf_file_name(QWidget*, const QString&) override { return std::nullopt; }
     int messages() const { return m_messages; }
 
 private:

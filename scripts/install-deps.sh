@@ -12,6 +12,8 @@ packages=(
   # the fuzz preset: clang, its libFuzzer and sanitizer runtimes, llvm-symbolizer for the reports
   clang libclang-rt-dev llvm
   fonts-liberation fontconfig
+  # the report tests read PDFs back: pdftotext, pdftoppm
+  poppler-utils
 )
 
 missing=()

@@ -151,6 +151,7 @@ constexpr Pair kAdded[] = {
     {"mnuman", "Manual", "Brukermanual"},
     {"mnuUpdate", "Update information", "Oppdateringer"},
     {"mnuabout", "About", "Om programmet"},
+    {"mnupdf", "Save report as PDF\u2026", "Lagre rapport som PDF\u2026"},
     {"optSuppLeft_0", "Free", "Fri"},
     {"optSuppLeft_1", "Simple", "Opplagt"},
     {"optSuppLeft_2", "Fixed", "Innspent"},

@@ -191,6 +191,19 @@ Message overwrite_question(const std::string& language, const std::string& path)
                              : Message{0, "", path + " finnes allerede. Vil du erstatte den?"};
 }
 
+Message report_refused(const std::string& language)
+{
+    return language == "Eng"
+               ? Message{0, "", "The results do not match the input. Correct the input before printing."}
+               : Message{0, "", "Resultatene svarer ikke til inndata. Rett inndata f\u00f8r utskrift."};
+}
+
+Message report_unwritten(const std::string& language, const std::string& why)
+{
+    return language == "Eng" ? Message{0, "", "The report was not written: " + why}
+                             : Message{0, "", "Rapporten ble ikke skrevet: " + why};
+}
+
 Message document_missing(const std::string& language, const std::string& path)
 {
     return language == "Eng" ? Message{0, "", "Can't open " + path}

@@ -34,4 +34,11 @@ Message overwrite_question(const std::string& language, const std::string& path)
 // A document of the help menu that is not there or that the desktop cannot open.
 Message document_missing(const std::string& language, const std::string& path);
 
+// A report asked for while the results do not belong to the input: the last
+// run stopped at its gate, or a box holds a value that failed.
+Message report_refused(const std::string& language);
+
+// A report that could not be written.
+Message report_unwritten(const std::string& language, const std::string& why);
+
 } // namespace kvelder

@@ -8,6 +8,7 @@
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "recalc/main_calc.h"
+#include "report/report_pdf.h"
 #include "ui/input_checks.h"
 #include "ui/load_checks.h"
 #include "ui/messages.h"
@@ -148,12 +149,37 @@ Outcome calculate(Model& m, Prepared& p, std::ostream& err)
     return {screen.messages, screen.messages.empty() && screen.load_failures.empty()};
 }
 
+// The input of the command line, prepared and recalculated once.
+struct Run {
+    std::unique_ptr<Model> m = std::make_unique<Model>();
+    Prepared input;
+    Outcome outcome;
+};
+
+Run run_input(const Options& o, std::ostream& err)
+{
+    Run r;
+    r.input = prepare(*r.m, o, err);
+    r.outcome = calculate(*r.m, r.input, err);
+    return r;
+}
+
 int report_failure(const std::vector<Message>& messages, std::ostream& err)
 {
     for (const Message& msg : messages) {
         err << "kvelder-cli: " << message_line(msg) << '\n';
     }
     return kCheckFailed;
+}
+
+// A beam that fails its checks writes no file: the messages and exit 1.
+std::optional<int> unwritten(const Outcome& run, const fs::path& output, std::ostream& err)
+{
+    if (run.calculated) {
+        return std::nullopt;
+    }
+    err << "kvelder-cli: the beam fails its checks; " << output.string() << " is not written\n";
+    return report_failure(run.messages, err);
 }
 
 // Runs a sub-command, turning its stop into the exit code and its line.
@@ -210,9 +236,7 @@ void note_own_data(const OwnData& folder, const OwnData& project, std::ostream& 
 int run_calc(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
-        auto m = std::make_unique<Model>();
-        Prepared input = prepare(*m, o, err);
-        const Outcome run = calculate(*m, input, err);
+        auto [m, input, run] = run_input(o, err);
         if (!run.calculated) {
             if (!o.text) {
                 out << nlohmann::ordered_json{{"messages", messages_json(run.messages)}}.dump(2) << '\n';
@@ -231,14 +255,11 @@ int run_calc(const Options& o, std::ostream& out, std::ostream& err)
 int run_save(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
-        auto m = std::make_unique<Model>();
         // The factors of the last recalculation travel in the file, as when the
         // window saves.
-        Prepared input = prepare(*m, o, err);
-        const Outcome run = calculate(*m, input, err);
-        if (!run.calculated) {
-            err << "kvelder-cli: the beam fails its checks; " << o.output->string() << " is not written\n";
-            return report_failure(run.messages, err);
+        auto [m, input, run] = run_input(o, err);
+        if (const auto refused = unwritten(run, *o.output, err)) {
+            return *refused;
         }
         if (const auto failed = save_project(*m, *o.output)) {
             stop(kUsageError, project_message(m->language, *failed).text);
@@ -265,9 +286,7 @@ int run_dump(const Options& o, std::ostream& out, std::ostream& err)
 int run_plot(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
-        auto m = std::make_unique<Model>();
-        Prepared input = prepare(*m, o, err);
-        const Outcome run = calculate(*m, input, err);
+        auto [m, input, run] = run_input(o, err);
         if (!run.calculated) {
             return report_failure(run.messages, err);
         }
@@ -278,12 +297,26 @@ int run_plot(const Options& o, std::ostream&, std::ostream& err)
     });
 }
 
+int run_report(const Options& o, std::ostream&, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto [m, input, run] = run_input(o, err);
+        if (const auto refused = unwritten(run, *o.output, err)) {
+            return *refused;
+        }
+        const std::string source = o.input ? o.input->string() : "New File";
+        if (const auto failed =
+                write_report_pdf(*m, *o.output, report_stamp(source), PrintSession{o.detailed})) {
+            stop(kUsageError, *failed);
+        }
+        return kCalculated;
+    });
+}
+
 int run_bench(const Options& o, std::ostream& out, std::ostream& err)
 {
     return guarded(err, [&] {
-        auto m = std::make_unique<Model>();
-        Prepared input = prepare(*m, o, err);
-        const Outcome warm_up = calculate(*m, input, err);
+        auto [m, input, warm_up] = run_input(o, err);
         if (!warm_up.calculated) {
             return report_failure(warm_up.messages, err);
         }
@@ -328,6 +361,9 @@ int run_cli(const std::vector<std::string>& args, const fs::path& installed_data
     }
     if (o.command == "plot") {
         return run_plot(o, out, err);
+    }
+    if (o.command == "report") {
+        return run_report(o, out, err);
     }
     return o.command == "calc" ? run_calc(o, out, err) : run_bench(o, out, err);
 }

@@ -14,11 +14,12 @@ namespace kvelder::cli {
 int run_cli(const std::vector<std::string>& args, const std::filesystem::path& installed_data_dir,
             std::ostream& out, std::ostream& err);
 
-// The sub-commands on a parsed command line. plot needs a QGuiApplication.
+// The sub-commands on a parsed command line. plot and report need a QGuiApplication.
 int run_calc(const Options& o, std::ostream& out, std::ostream& err);
 int run_save(const Options& o, std::ostream& out, std::ostream& err);
 int run_dump(const Options& o, std::ostream& out, std::ostream& err);
 int run_plot(const Options& o, std::ostream& out, std::ostream& err);
+int run_report(const Options& o, std::ostream& out, std::ostream& err);
 int run_bench(const Options& o, std::ostream& out, std::ostream& err);
 
 } // namespace kvelder::cli

@@ -30,7 +30,7 @@ int main(int argc, char** argv)
 {
     const std::vector<std::string> args(argv + 1, argv + argc);
     // Only the pictures need Qt's drawing; the rest stays off any display.
-    const bool pictures = !args.empty() && args[0] == "plot";
+    const bool pictures = !args.empty() && (args[0] == "plot" || args[0] == "report");
     if (pictures) {
         kvelder::choose_headless_platform();
     }

@@ -10,11 +10,12 @@ const char* const kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--
                            "       kvelder-cli save [BEAM.json] -o FILE.kvel [--data-dir DIR]\n"
                            "       kvelder-cli dump FILE.kvel [--data-dir DIR]\n"
                            "       kvelder-cli plot [INPUT] -o DIR [--size WxH] [--data-dir DIR]\n"
+                           "       kvelder-cli report [INPUT] -o FILE.pdf [--detailed] [--data-dir DIR]\n"
                            "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
                            "INPUT is a beam description (.json) or a project file (.kvel); without it the\n"
                            "example beam is used. save writes the beam as a project file, dump writes a\n"
                            "project file as a beam description, plot draws the six pictures of the window\n"
-                           "as PNG files.\n";
+                           "as PNG files, report writes the printed report as a PDF.\n";
 
 namespace {
 
@@ -50,6 +51,9 @@ void check_input(const Options& o)
 {
     if (o.command == "plot" && !o.output) {
         throw Stop{kUsageError, "plot needs -o and the folder for its pictures"};
+    }
+    if (o.command == "report" && (!o.output || o.output->extension() != ".pdf")) {
+        throw Stop{kUsageError, "report needs -o and a file name ending in .pdf"};
     }
     if (o.command == "dump" && (!o.input || !is_project(*o.input))) {
         throw Stop{kUsageError, "dump needs a project file (.kvel)"};
@@ -90,7 +94,7 @@ Options parse_or_stop(const std::vector<std::string>& args)
     Options o;
     o.command = args[0];
     if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "plot" &&
-        o.command != "bench") {
+        o.command != "report" && o.command != "bench") {
         throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
     }
     for (std::size_t k = 1; k < args.size(); ++k) {
@@ -105,7 +109,9 @@ Options parse_or_stop(const std::vector<std::string>& args)
             o.data_dir = std::filesystem::path(value());
         } else if (a == "--text" && o.command == "calc") {
             o.text = true;
-        } else if (a == "-o" && (o.command == "save" || o.command == "plot")) {
+        } else if (a == "--detailed" && o.command == "report") {
+            o.detailed = true;
+        } else if (a == "-o" && (o.command == "save" || o.command == "plot" || o.command == "report")) {
             o.output = std::filesystem::path(value());
         } else if (a == "--size" && o.command == "plot") {
             size_into(value(), o);

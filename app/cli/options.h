@@ -23,12 +23,14 @@ struct Stop {
 };
 
 struct Options {
-    std::string command; // "calc", "save", "dump", "plot" or "bench"
+    std::string command; // "calc", "save", "dump", "plot", "report" or "bench"
     std::optional<std::filesystem::path> input;
-    std::optional<std::filesystem::path> output;   // the project file of "save", the folder of "plot"
+    std::optional<std::filesystem::path>
+        output; // the project file of "save", the folder of "plot", the PDF of "report"
     std::optional<std::filesystem::path> data_dir; // as given by --data-dir
     std::filesystem::path installed_data_dir;      // the data folder without --data-dir
     bool text = false;
+    bool detailed = false; // "report" with the detailed pages
     int runs = 1000;
     int width = 800, height = 300; // pixels of each picture of "plot"
 };

@@ -140,10 +140,26 @@ TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
 
 TEST(CliCalc, UsageAndFileErrorsExitTwo)
 {
-    for (const char* line : {"", "draw", "calc --colour", "calc a.json b.json", "calc /no/such/beam.json",
-                             "calc beam.txt", "calc --size 100x100", "calc --data-dir /no/such/folder",
-                             "bench -n 0", "save", "save -o beam.json", "save a.kvel -o b.kvel", "dump",
-                             "dump beam.json", "plot", "plot -o x --size 10x10", "plot -o x --size wide"}) {
+    for (const char* line : {"",
+                             "draw",
+                             "calc --colour",
+                             "calc a.json b.json",
+                             "calc /no/such/beam.json",
+                             "calc beam.txt",
+                             "calc --size 100x100",
+                             "calc --data-dir /no/such/folder",
+                             "bench -n 0",
+                             "save",
+                             "save -o beam.json",
+                             "save a.kvel -o b.kvel",
+                             "dump",
+                             "dump beam.json",
+                             "plot",
+                             "plot -o x --size 10x10",
+                             "plot -o x --size wide",
+                             "report",
+                             "report -o report.txt",
+                             "calc --detailed"}) {
         std::istringstream words(line);
         const CliRun r = run({std::istream_iterator<std::string>(words), {}});
         EXPECT_EQ(r.exit, 2) << line;
@@ -289,6 +305,70 @@ TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
     const CliRun refused = run({"plot", "-o", blocked});
     EXPECT_EQ(refused.exit, 2);
     EXPECT_NE(refused.err.find("no folder"), std::string::npos) << refused.err;
+}
+
+// The words and numbers of a PDF, as pdftotext reads them: the text is vector text.
+std::vector<std::string> pdf_words(const std::string& pdf)
+{
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QString::fromStdString(pdf), QStringLiteral("-")});
+    EXPECT_TRUE(reader.waitForFinished(30000)) << "pdftotext";
+    std::istringstream text(reader.readAllStandardOutput().toStdString());
+    return {std::istream_iterator<std::string>(text), {}};
+}
+
+bool holds_number(const std::vector<std::string>& words, double value)
+{
+    return std::any_of(words.begin(), words.end(), [value](const std::string& w) {
+        char* end = nullptr;
+        const double v = std::strtod(w.c_str(), &end);
+        return end != w.c_str() && *end == '\0' && std::abs(v - value) < 0.0051;
+    });
+}
+
+// The report holds a header on every page and, as calc gives them, the
+// material, each span's usage factors and each support's reaction.
+TEST(CliReport, ThePdfHoldsWhatCalcGives)
+{
+    const std::string five =
+        description("five.json", R"({"language": "Nor", "ffl_s": [4.0, 5.0, 3.5, 6.0, 4.5],
+        "nsupLeft_s": "I", "loadcomb_option": 2,
+        "G": {"uni": [[1, 1.5], [2, 1.5], [3, 1.5], [4, 1.5], [5, 1.5]], "pt": [[4, 8.0, 2.5]], "mom": [[3, 4.0, 1.5]]},
+        "Q1": {"uni": [[1, 3.0], [3, 3.0]], "trap": [[5, 0.0, 4.0, 0.5, 4.0]], "mom": [[4, 3.0, 3.0]]}})");
+    for (const auto& [input, pages] : {std::pair{std::string(), 2}, {five, 4}}) {
+        Args args{"report", "-o", scratch("report.pdf")};
+        Args calc{"calc"};
+        if (!input.empty()) {
+            args.insert(args.begin() + 1, input);
+            args.push_back("--detailed");
+            calc.push_back(input);
+        }
+        const CliRun r = run(args);
+        ASSERT_EQ(r.exit, 0) << r.err;
+        const std::vector<std::string> words = pdf_words(scratch("report.pdf"));
+        const json result = json::parse(run(calc).out);
+        const bool english = input.empty();
+        EXPECT_EQ(std::count(words.begin(), words.end(), english ? "Page:" : "Side:"), pages) << input;
+        EXPECT_NE(std::find(words.begin(), words.end(), result["material"]["name"].get<std::string>()),
+                  words.end());
+        for (const json& check : result["checks"]) {
+            for (const char* key : {"Uf_pos", "Uf_neg", "Uf_tau"}) {
+                EXPECT_TRUE(holds_number(words, check[key].get<double>()))
+                    << input << " span " << check["span"] << key;
+            }
+        }
+        for (const json& support : result["bearing"]) {
+            if (support.contains("R")) { // a built-in end carries no bearing check
+                EXPECT_TRUE(holds_number(words, support["R"].get<double>()))
+                    << input << " node " << support["node"];
+            }
+        }
+    }
+
+    const CliRun failing = run({"report", description("bad_row.json", R"({"G": {"uni": [[3, 2.0]]}})"), "-o",
+                                scratch("failing.pdf")});
+    EXPECT_EQ(failing.exit, 1);
+    EXPECT_FALSE(fs::exists(scratch("failing.pdf")));
 }
 
 // The results and both trace files of a set of beams, kept from before the

@@ -317,5 +317,54 @@ TEST_F(MainWindowFlow, AChangedBeamIsAskedAboutBeforeItIsThrownAway)
     EXPECT_EQ(prompter.questions.size(), 3);
 }
 
+// The pages of a PDF that Qt wrote, by its page objects.
+int pdf_pages(const fs::path& pdf)
+{
+    const std::string bytes = contents(pdf);
+    int pages = 0;
+    for (std::size_t at = bytes.find("/Type /Page"); at != std::string::npos;
+         at = bytes.find("/Type /Page", at + 1)) {
+        pages += bytes.compare(at, 12, "/Type /Pages") != 0 ? 1 : 0;
+    }
+    return pages;
+}
+
+TEST_F(MainWindowFlow, PrintingGoesToTheChosenPrinterKeepsTheDetailAndRefusesStaleResults)
+{
+    start(); // two spans: two pages, three with the detailed pages
+    const fs::path printed = m_folder / "printed.pdf";
+    get<QAction>("mnumax2")->trigger(); // the print dialog cancelled: nothing at all
+    EXPECT_FALSE(fs::exists(printed));
+    prompter.printer_file = qpath(printed);
+    get<QAction>("mnumax1")->trigger();
+    EXPECT_EQ(pdf_pages(printed), 2);
+    get<QAction>("mnumax2")->trigger();
+    EXPECT_EQ(pdf_pages(printed), 3);
+    get<QAction>("mnumax1")->trigger(); // detailed from now on
+    EXPECT_EQ(pdf_pages(printed), 3);
+
+    const fs::path saved = m_folder / "report";
+    prompter.file_names = {qpath(saved)};
+    get<QAction>("mnupdf")->trigger();
+    EXPECT_EQ(pdf_pages(m_folder / "report.pdf"), 3);
+
+    // A span being typed commits first, and a failing one stops the printing.
+    fs::remove(printed);
+    type("Txtfelt_0", "", false);
+    get<QAction>("mnumax1")->trigger();
+    EXPECT_FALSE(fs::exists(printed));
+    EXPECT_EQ(prompter.messages.last(), "Length of span is missing");
+    type("Txtfelt_0", "5");
+    // Results of a beam that no longer stands are not printed.
+    click("optSuppLeft_0");
+    click("optSuppRight_0");
+    get<QAction>("mnupdf")->trigger();
+    get<QAction>("mnumax1")->trigger();
+    EXPECT_FALSE(fs::exists(printed));
+    EXPECT_EQ(prompter.messages.last(),
+              "The results do not match the input. Correct the input before printing.");
+    EXPECT_EQ(prompter.messages.count(prompter.messages.last()), 2);
+}
+
 } // namespace
 } // namespace kvelder::test

@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrinter>
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -67,6 +68,19 @@ public:
     std::optional<QString> open_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
     std::optional<QString> save_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
     bool open_document(const QString&) override { return false; }
+    // A printer that writes a PDF to `printer_file`; cancelled while it is empty.
+    QString printer_file;
+    bool choose_printer(QWidget* p, QPrinter& printer) override
+    {
+        modal(p);
+        if (printer_file.isEmpty()) {
+            return false;
+        }
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(printer_file);
+        return true;
+    }
+    std::optional<QString> pdf_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
 
 private:
     template <typename T>

@@ -4,33 +4,15 @@
 #include "drawing/plot_scale.h"
 #include "report/page_header.h"
 #include "report/report_text.h"
+#include "tests/report/page_image.h"
 #include "tests/support/beams.h"
 
 #include <QImage>
+
 #include <gtest/gtest.h>
 
 namespace kvelder::test {
 namespace {
-
-// A page of 200 x 290 mm at 4 pixels a millimetre, y up.
-struct Page {
-    QImage image{800, 1160, QImage::Format_RGB32};
-    Page() { image.fill(Qt::white); }
-    // The ink's extent in millimetres: left, right, bottom, top.
-    std::array<float, 4> ink() const
-    {
-        int left = image.width(), right = -1, top = image.height(), bottom = -1;
-        for (int py = 0; py < image.height(); ++py) {
-            for (int px = 0; px < image.width(); ++px) {
-                if (image.pixel(px, py) != qRgb(255, 255, 255)) {
-                    left = std::min(left, px), right = std::max(right, px);
-                    top = std::min(top, py), bottom = std::max(bottom, py);
-                }
-            }
-        }
-        return {left / 4.0F, (right + 1) / 4.0F, 290 - (bottom + 1) / 4.0F, 290 - top / 4.0F};
-    }
-};
 
 TEST(PageHeader, StaysInItsBoxWithALongProjectNameInBothLanguages)
 {
@@ -38,7 +20,7 @@ TEST(PageHeader, StaysInItsBoxWithALongProjectNameInBothLanguages)
     m->prosjekt_s = "Lagerhall med mange felt og en svært lang prosjekttittel som ikke får plass på én linje";
     for (const char* language : {"Eng", "Nor"}) {
         m->language = language;
-        Page page;
+        PageImage page;
         {
             PlotSurface s(page.image);
             SetPlotScale(s, 0, 290, 200, 0);
@@ -55,7 +37,7 @@ TEST(PageHeader, StaysInItsBoxWithALongProjectNameInBothLanguages)
 TEST(ReportText, PrintRightEndsAtItsEdgeWhateverTheText)
 {
     for (const char* text : {"1.00", "-1234.56"}) {
-        Page page;
+        PageImage page;
         {
             PlotSurface s(page.image);
             SetPlotScale(s, 0, 290, 200, 0);

@@ -1,0 +1,138 @@
+#include "report/detail_tables.h"
+
+#include "design/section_checks.h"
+#include "files/number_format.h"
+#include "report/report_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+namespace kvelder {
+namespace {
+
+using Align = TableCell::Align;
+
+constexpr float kSamePlace = 1e-4F; // m
+
+// Right edges of the columns of both tables, mm from the section's x.
+constexpr float kSpan = 10, kPosition = 24;
+constexpr float kShearMax = 35, kShearMin = 51, kMomentMax = 67, kMomentMin = 83, kDeflectionMax = 100,
+                kDeflectionMin = 122;
+
+std::string number(const Model& m, double v, std::string_view pattern)
+{
+    return format_number(v, pattern, m.decimal_comma != 0);
+}
+
+TableCell text(float x, std::string_view s)
+{
+    return {x, std::string(s), Align::Left, false};
+}
+
+TableCell right(float x, std::string s)
+{
+    return {x, std::move(s), Align::Right, false};
+}
+
+TableLine max_min_heads(const Model& m, std::initializer_list<float> max_edges)
+{
+    TableLine line;
+    for (const float edge : max_edges) {
+        line.cells.push_back(right(edge, std::string(pick(m, "Max.", "Maks."))));
+        line.cells.push_back(right(edge + 16, "Min."));
+    }
+    return line;
+}
+
+// The fine point nearest to x: the coarse grid's places are all on the fine
+// grid, up to the rounding of the two divisions.
+int fine_point(const Model& m, int span, float x)
+{
+    int best = 1;
+    for (int j = 2; j <= m.nxtot_s(span); ++j) {
+        if (std::abs(m.xl_s(span, j) - x) < std::abs(m.xl_s(span, best) - x)) {
+            best = j;
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+std::vector<DetailPoint> detail_points(const Model& m)
+{
+    std::vector<DetailPoint> points;
+    for (int i = 1; i <= m.nf; ++i) {
+        std::vector<float> xs;
+        for (int j = 1; j <= m.nxtot10_s(i); ++j) {
+            xs.push_back(m.xl10_s(i, j));
+        }
+        std::sort(xs.begin(), xs.end());
+        for (std::size_t k = 0; k < xs.size(); ++k) {
+            if (k > 0 && xs[k] - points.back().x <= kSamePlace) {
+                continue;
+            }
+            points.push_back({i, xs[k], fine_point(m, i, xs[k])});
+        }
+    }
+    return points;
+}
+
+std::vector<TableLine> force_lines(const Model& m)
+{
+    std::vector<TableLine> lines{
+        {{text(26, pick(m, "F o r c e s   a n d   M o m e n t s", "K r e f t e r   o g   M o m e n t e r")),
+          text(92, pick(m, "D e f o r m a t i o n s", "D e f o r m a s j o n e r"))}},
+        {{right(kSpan, std::string(pick(m, "Span no.", "Felt nr."))), right(kPosition, "xl (m)"),
+          text(30, pick(m, "Shear force", "Skj\u00e6rkraft")), text(64, "Moment")}},
+        max_min_heads(m, {kShearMax, kMomentMax}),
+    };
+    lines.back().cells.push_back(right(kDeflectionMax, std::string(pick(m, "Max.", "Maks."))));
+    lines.back().cells.push_back(right(kDeflectionMin, "Min."));
+    for (const DetailPoint& p : detail_points(m)) {
+        const int i = p.span, j = p.fine;
+        lines.push_back({{right(kSpan, number(m, i, "##")), right(kPosition, number(m, p.x, "##0.00")),
+                          right(kShearMax, number(m, m.V_max(i, j), "##0.00 ")),
+                          right(kShearMin, number(m, m.V_min(i, j), "##0.00 ")),
+                          right(kMomentMax, number(m, m.M_max(i, j), "##0.00 ")),
+                          right(kMomentMin, number(m, m.M_min(i, j), "##0.00 ")),
+                          right(kDeflectionMax, number(m, m.W_max(i, j), "##0.0 ")),
+                          right(kDeflectionMin, number(m, m.W_min(i, j), "##0.0 "))}});
+    }
+    return lines;
+}
+
+std::vector<TableLine> reaction_lines(const Model& m)
+{
+    std::vector<TableLine> lines{
+        {{text(26, pick(m, "S u p p o r t   R e a c t i o n s", "O p p l e g g s k r e f t e r"))}},
+        {{right(kSpan + 2, std::string(pick(m, "Support no.", "Oppleggs nr."))),
+          text(37, pick(m, "Force", "Kraft")), text(64, "Moment")}},
+        max_min_heads(m, {kShearMax, kMomentMax}),
+    };
+    for (int node = 1; node <= m.nnodes; ++node) {
+        TableLine& line = lines.emplace_back();
+        line.cells.push_back(right(kSpan, number(m, node, "0 ")));
+        if (bearing_kind(m, node) == kFree) {
+            line.cells.push_back(right(kShearMax, std::string(pick(m, "Free", "Fri"))));
+            continue;
+        }
+        const int k = reaction_index(m, node);
+        line.cells.insert(line.cells.end(), {right(kShearMax, number(m, m.R_max(k), "##0.00 ")),
+                                             right(kShearMin, number(m, m.R_min(k), "##0.00 ")),
+                                             right(kMomentMax, number(m, m.MR_max(k), "##0.00 ")),
+                                             right(kMomentMin, number(m, m.MR_min(k), "##0.00 "))});
+    }
+    return lines;
+}
+
+float PrintDetailTables(PlotSurface& surface, const Model& m, float x, float y)
+{
+    y = PrintLines(surface, force_lines(m), x, y);
+    return PrintLines(surface, reaction_lines(m), x, y - LinePitch(surface));
+}
+
+} // namespace kvelder
