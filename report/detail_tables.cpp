@@ -129,10 +129,4 @@ std::vector<TableLine> reaction_lines(const Model& m)
     return lines;
 }
 
-float PrintDetailTables(PlotSurface& surface, const Model& m, float x, float y)
-{
-    y = PrintLines(surface, force_lines(m), x, y);
-    return PrintLines(surface, reaction_lines(m), x, y - LinePitch(surface));
-}
-
 } // namespace kvelder

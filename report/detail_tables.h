@@ -4,6 +4,7 @@
 #include "model/model.h"
 #include "report/report_sections.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace kvelder {
@@ -31,7 +32,7 @@ std::vector<TableLine> force_lines(const Model& m);
 // free end has none.
 std::vector<TableLine> reaction_lines(const Model& m);
 
-// Both tables, the reactions below the forces; no page break between them.
-float PrintDetailTables(PlotSurface& surface, const Model& m, float x, float y);
+// Each table opens with this many lines of head, which a new page repeats.
+constexpr std::size_t kDetailHeads = 3;
 
 } // namespace kvelder

@@ -95,7 +95,7 @@ float heading_gap(float size = 15)
 float first_pages(PlotSurface& s, const Model& m, Pages& pages)
 {
     PrintHeading(s, kLeft, kPageTop - 26, "1.0  Material data (MPa) ");
-    PrintMaterialTable(s, m, kLeft, kPageTop - 26 - 7);
+    PrintMaterialTable(s, m, kLeft, kPageTop - 26 - 5.8F);
 
     // Heading 2.0 always takes its "(mm)" form.
     PrintHeading(s, kLeft, kPageTop - 42,
@@ -161,6 +161,35 @@ void results_pages(PlotSurface& s, const Model& m, Pages& pages)
     PrintSupportTable(s, m, kLeft, y - heading_gap());
 }
 
+// The lines of a table whose first `heads` lines are its head. Where the page
+// ends, the rest goes on under the header of the next page, its head again first.
+float print_paged(PlotSurface& s, Pages& pages, const std::vector<TableLine>& lines, std::size_t heads,
+                  float x, float y)
+{
+    SetTableFont(s);
+    const float pitch = LinePitch(s);
+    const std::vector<TableLine> head(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(heads));
+    y = PrintLines(s, head, x, pages.room(y, pitch * static_cast<float>(heads + 1)));
+    for (std::size_t k = heads; k < lines.size(); ++k) {
+        if (y - pitch < kBottom) {
+            pages.next();
+            y = PrintLines(s, head, x, kPageTop - 26);
+        }
+        y = PrintLines(s, {lines[k]}, x, y);
+    }
+    return y;
+}
+
+void detail_pages(PlotSurface& s, const Model& m, Pages& pages)
+{
+    pages.next();
+    PrintHeading(s, kLeft, kPageTop - 28,
+                 pick(m, "8.0 Max. and min. forces and deformations(m, kN, kNm, mm) ",
+                      "8.0 Maks. og min. krefter og deformasjoner (m, kN, kNm, mm)"));
+    float y = print_paged(s, pages, force_lines(m), kDetailHeads, kLeft, kPageTop - 28 - 4 - heading_gap());
+    print_paged(s, pages, reaction_lines(m), kDetailHeads, kLeft, y - LinePitch(s));
+}
+
 } // namespace
 
 int PrintReport(PlotSurface& s, const Model& m, const ReportStamp& stamp, const PrintSession& session)
@@ -169,11 +198,7 @@ int PrintReport(PlotSurface& s, const Model& m, const ReportStamp& stamp, const 
     first_pages(s, m, pages);
     results_pages(s, m, pages);
     if (session.detail_mode) {
-        pages.next();
-        PrintHeading(s, kLeft, kPageTop - 28,
-                     pick(m, "8.0 Max. and min. forces and deformations(m, kN, kNm, mm) ",
-                          "8.0 Maks. og min. krefter og deformasjoner (m, kN, kNm, mm)"));
-        PrintDetailTables(s, m, kLeft, kPageTop - 28 - 4 - heading_gap());
+        detail_pages(s, m, pages);
     }
     return pages.count();
 }

@@ -181,7 +181,10 @@ TEST(ReportSections, EachDrawsWithinTheColumnOfTheReportAndBelowItsStart)
         {"loads", PrintLoadTables},
         {"buckling", PrintBucklingTable},
         {"supports", PrintSupportTable},
-        {"details", PrintDetailTables},
+        {"details",
+         [](PlotSurface& s, const Model& m, float x, float y) {
+             return PrintLines(s, reaction_lines(m), x, PrintLines(s, force_lines(m), x, y));
+         }},
     }};
     std::vector<std::unique_ptr<Model>> beams;
     beams.push_back(round_five_spans());
