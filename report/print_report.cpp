@@ -110,7 +110,10 @@ float first_pages(PlotSurface& s, const Model& m, Pages& pages)
     PrintHeading(s, kLeft, y - 2, pick(m, "3.1 Load input ", "3.1  Last input"), 12);
     y = PrintLoadTables(s, m, kLeft, y - 2 - heading_gap(12));
 
-    y = pages.room(y - 2, heading_gap(12) + load_plots_height(m));
+    // The plots stand below the room the tables take, and go to the next page
+    // when they would pass the bottom of this one.
+    y = std::min(y - 2, kPageTop - ReportHeightOfLoads(m));
+    y = pages.room(y, heading_gap(12) + load_plots_height(m));
     PrintHeading(s, kLeft, y, pick(m, "3.2  Plots of beam and loadings ", "3.2  Plot av bjelke og laster"),
                  12);
     return PrintLoadPlots(s, m, kLeft, y - heading_gap(12));
@@ -191,6 +194,22 @@ void detail_pages(PlotSurface& s, const Model& m, Pages& pages)
 }
 
 } // namespace
+
+float ReportHeightOfLoads(const Model& m)
+{
+    float height = m.G.empty() ? 110.0F : 87.0F;
+    bool first = true;
+    for (const LoadGroupId id : kLoadGroups) {
+        const LoadGroup& g = group_of(m, id);
+        if (g.empty()) {
+            continue;
+        }
+        height += kLoadPitch * static_cast<float>(std::max({g.uni_n, g.trap_n, g.pt_n, g.mom_n}));
+        height += first ? 0.0F : 12.0F;
+        first = false;
+    }
+    return height;
+}
 
 int PrintReport(PlotSurface& s, const Model& m, const ReportStamp& stamp, const PrintSession& session)
 {

@@ -5,6 +5,7 @@
 #include "tests/support/beams.h"
 
 #include <QCryptographicHash>
+#include <QImage>
 #include <QImageReader>
 #include <QProcess>
 
@@ -356,6 +357,26 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
                 EXPECT_TRUE(holds_number(words, check[key].get<double>()))
                     << input << " span " << check["span"] << key;
             }
+        }
+        // Each page, rendered, has ink, and none in a band along the paper's edges.
+        const QString base = QString::fromStdString(scratch("page"));
+        QProcess::execute(QStringLiteral("pdftoppm"),
+                          {QStringLiteral("-r"), QStringLiteral("20"), QStringLiteral("-png"),
+                           QString::fromStdString(scratch("report.pdf")), base});
+        for (int page = 1; page <= pages; ++page) {
+            const QImage image(base + QStringLiteral("-%1.png").arg(page));
+            ASSERT_FALSE(image.isNull()) << input << " page " << page;
+            const int band = image.width() / 40;
+            bool inked = false, edge = false;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const bool ink = qGray(image.pixel(x, y)) < 200;
+                    inked = inked || ink;
+                    edge = edge || (ink && (x < band || y < band || x >= image.width() - band ||
+                                            y >= image.height() - band));
+                }
+            }
+            EXPECT_TRUE(inked && !edge) << input << " page " << page;
         }
         for (const json& support : result["bearing"]) {
             if (support.contains("R")) { // a built-in end carries no bearing check

@@ -40,6 +40,8 @@ std::unique_ptr<Model> spans(int nf)
 
 TEST(ReportPages, FollowTheSpansAndTheDetailAndFullLoadTablesBreakOnward)
 {
+    // G and Q1 of two rows each: 87 + 2 x 3.5, then 12 + 2 x 3.5.
+    EXPECT_FLOAT_EQ(ReportHeightOfLoads(*spans(2)), 113.0F);
     for (int nf = 1; nf <= 5; ++nf) {
         const auto m = spans(nf);
         const int compressed = nf <= 2 ? 2 : 3;
