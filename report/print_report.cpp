@@ -67,9 +67,6 @@ private:
 // load it has, then the beam.
 constexpr float kCaptionHeight = 8;
 constexpr float kBeamHeight = 11;
-// The diagrams of section 5.1 and a span's block of section 6.0.
-constexpr float kDiagramsHeight = 63;
-constexpr float kSpanCheckHeight = 27;
 
 float load_plots_height(const Model& m)
 {
