@@ -4,6 +4,7 @@
 #include "drawing/glyphs.h"
 #include "files/code_page.h"
 #include "files/number_format.h"
+#include "model/load_rows.h"
 #include "report/report_text.h"
 #include "ui/result_columns.h"
 
@@ -271,58 +272,24 @@ float PrintFactors(PlotSurface& surface, const Model& m, float x, float y)
 
 namespace {
 
-// One table of a group: where it stands, its title, its columns and its rows.
+// One table of a group: where it stands, its title and its value columns.
 struct LoadColumns {
+    LoadTable table;
     float x;
     std::string_view title_eng, title_nor;
     std::vector<std::string_view> heads; // after the span
-    int rows;
-    std::vector<float> (*values)(const LoadGroup&, int);
-    std::int16_t (*span)(const LoadGroup&, int);
 };
 
 constexpr float kSpanColumn = 8;   // right edge of the span number in a table
 constexpr float kValueColumn = 12; // width of each value column
 
-std::vector<LoadColumns> load_tables(const LoadGroup& g)
-{
-    return {
-        {0,
-         "Uniform loads",
-         "Jevnt fordelt last",
-         {"q"},
-         g.uni_n,
-         [](const LoadGroup& t, int k) { return std::vector<float>{t.uni_q(k)}; },
-         [](const LoadGroup& t, int k) { return t.uni_span(k); }},
-        {30,
-         "Trapezoidal loads",
-         "Trapes laster",
-         {"q1", "q2 ", "x1", "x2"},
-         g.trap_n,
-         [](const LoadGroup& t, int k) {
-             return std::vector<float>{t.trap_q1(k), t.trap_q2(k), t.trap_a(k), t.trap_b(k)};
-         },
-         [](const LoadGroup& t, int k) { return t.trap_span(k); }},
-        {94,
-         "Moment loads",
-         "Moment laster",
-         {"M", "x "},
-         g.mom_n,
-         [](const LoadGroup& t, int k) {
-             return std::vector<float>{t.mom_M(k), t.mom_a(k)};
-         },
-         [](const LoadGroup& t, int k) { return t.mom_span(k); }},
-        {132,
-         "Point loads",
-         "Punkt laster",
-         {"P", "x "},
-         g.pt_n,
-         [](const LoadGroup& t, int k) {
-             return std::vector<float>{t.pt_P(k), t.pt_a(k)};
-         },
-         [](const LoadGroup& t, int k) { return t.pt_span(k); }},
-    };
-}
+// In the order of the report, which puts the moments before the points.
+const std::array<LoadColumns, 4> kLoadColumns{{
+    {LoadTable::Uniform, 0, "Uniform loads", "Jevnt fordelt last", {"q"}},
+    {LoadTable::Trapezoid, 30, "Trapezoidal loads", "Trapes laster", {"q1", "q2 ", "x1", "x2"}},
+    {LoadTable::Moment, 94, "Moment loads", "Moment laster", {"M", "x "}},
+    {LoadTable::Point, 132, "Point loads", "Punkt laster", {"P", "x "}},
+}};
 
 void add_group(std::vector<TableLine>& lines, const Model& m, const LoadGroup& g, std::string_view heading,
                bool empty)
@@ -343,8 +310,9 @@ void add_group(std::vector<TableLine>& lines, const Model& m, const LoadGroup& g
     } else {
         const std::size_t titles = line();
         const std::size_t heads = line();
-        for (const LoadColumns& t : load_tables(g)) {
-            if (t.rows <= 0) {
+        for (const LoadColumns& t : kLoadColumns) {
+            const int rows = row_count(g, t.table);
+            if (rows <= 0) {
                 continue;
             }
             const auto column = [&t](std::size_t c) {
@@ -355,15 +323,15 @@ void add_group(std::vector<TableLine>& lines, const Model& m, const LoadGroup& g
             for (std::size_t c = 0; c < t.heads.size(); ++c) {
                 lines[heads].cells.push_back(right(column(c + 1), std::string(t.heads[c])));
             }
-            for (int k = 1; k <= t.rows; ++k) {
+            for (int k = 1; k <= rows; ++k) {
                 const std::size_t at = heads + static_cast<std::size_t>(k);
                 if (lines.size() <= at) {
                     lines.resize(at + 1, TableLine{{}, kLoadPitch});
                 }
-                lines[at].cells.push_back(right(column(0), number(m, t.span(g, k), "0")));
-                const std::vector<float> values = t.values(g, k);
-                for (std::size_t c = 0; c < values.size(); ++c) {
-                    lines[at].cells.push_back(right(column(c + 1), number(m, values[c], "0.00")));
+                const LoadRow r = row(g, t.table, k);
+                lines[at].cells.push_back(right(column(0), number(m, r.span, "0")));
+                for (std::size_t c = 0; c < t.heads.size(); ++c) {
+                    lines[at].cells.push_back(right(column(c + 1), number(m, r.values[c], "0.00")));
                 }
             }
         }
