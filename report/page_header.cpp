@@ -27,9 +27,15 @@ std::size_t fitting(const PlotSurface& s, std::string_view text, float width)
     if (s.TextWidth(text) <= width) {
         return text.size();
     }
+    // Whole characters only: the texts are UTF-8.
+    const auto continuation = [text](std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+    };
     std::size_t end = text.size();
     while (end > 1 && s.TextWidth(text.substr(0, end)) > width) {
-        --end;
+        do {
+            --end;
+        } while (end > 1 && continuation(end));
     }
     const std::size_t blank = text.substr(0, end).rfind(' ');
     return blank != std::string_view::npos && blank > 0 ? blank + 1 : end;
@@ -82,7 +88,8 @@ void PrintPageHeader(PlotSurface& s, const Model& m, const ReportStamp& stamp, f
     PrintAt(s, x + 159, y - 4, std::to_string(page));
 
     PrintAt(s, x + 63, y - 8.7F, pick(m, "Identification:", "Identifikation:"));
-    PrintAt(s, x + 81, y - 8.7F, m.id_s);
+    const std::string_view id = m.id_s;
+    PrintAt(s, x + 81, y - 8.7F, id.substr(0, fitting(s, id, 147 - 82)));
     PrintAt(s, x + 63, y - 11.7F, "File:");
     const std::string_view file = stamp.file;
     PrintAt(s, x + 81, y - 11.7F, file.substr(0, fitting(s, file, kWidth - 82)));

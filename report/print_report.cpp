@@ -10,6 +10,7 @@
 #include "report/report_text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace kvelder {
 namespace {
@@ -77,8 +78,10 @@ float load_plots_height(const Model& m)
             continue;
         }
         h += kCaptionHeight;
-        h += (g.mom_n > 0 ? 6.0F : 0.0F) + (g.pt_n > 0 ? 4.0F : 0.0F) + (g.trap_n > 0 ? 8.0F : 0.0F) +
-             (g.uni_n > 0 ? 8.0F : 0.0F);
+        constexpr std::array<float, 4> kBand{8, 8, 4, 6}; // uniform, trapezoid, point, moment
+        for (const LoadTable table : kLoadTables) {
+            h += row_count(g, table) > 0 ? kBand[static_cast<std::size_t>(table)] : 0.0F;
+        }
     }
     return h;
 }
@@ -201,7 +204,11 @@ float ReportHeightOfLoads(const Model& m)
         if (g.empty()) {
             continue;
         }
-        height += kLoadPitch * static_cast<float>(std::max({g.uni_n, g.trap_n, g.pt_n, g.mom_n}));
+        int rows = 0;
+        for (const LoadTable table : kLoadTables) {
+            rows = std::max(rows, row_count(g, table));
+        }
+        height += kLoadPitch * static_cast<float>(rows);
         height += first ? 0.0F : 12.0F;
         first = false;
     }

@@ -52,7 +52,7 @@ void check_input(const Options& o)
     if (o.command == "plot" && !o.output) {
         throw Stop{kUsageError, "plot needs -o and the folder for its pictures"};
     }
-    if (o.command == "report" && (!o.output || o.output->extension() != ".pdf")) {
+    if (o.command == "report" && (!o.output || !has_extension(*o.output, ".pdf"))) {
         throw Stop{kUsageError, "report needs -o and a file name ending in .pdf"};
     }
     if (o.command == "dump" && (!o.input || !is_project(*o.input))) {
