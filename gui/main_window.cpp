@@ -12,10 +12,12 @@
 #include "gui/result_panel.h"
 #include "gui/section_panel.h"
 #include "gui/span_panel.h"
+#include "help/help_dialog.h"
 #include "recalc/main_calc.h"
 #include "report/print_report.h"
 #include "report/report_pdf.h"
 #include "ui/captions.h"
+#include "ui/load_dialog.h"
 #include "ui/messages.h"
 
 #include <QAbstractButton>
@@ -149,6 +151,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     }
     for (const LoadGroupId id : kLoadGroups) {
         m_load_dialogs[static_cast<std::size_t>(id)] = new LoadDialog(*this, id, this);
+        register_form(qs(load_dialog_name(id)), [this, id] { show_load_dialog(id); });
         connect(findChild<PictureBox*>(picture_name(picture_of(id))), &PictureBox::clicked, this,
                 [this, id] { show_load_dialog(id); });
     }
@@ -168,6 +171,9 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     // The help buttons carry a question mark only.
     for (const char* name : {"Cmd_opplegg", "Cmd_loadcomb2", "Cmd_610a_b", "Cmd_vipp_text"}) {
         findChild<QWidget*>(name)->setMaximumWidth(28);
+    }
+    for (const HelpForm form : kHelpForms) {
+        register_form(qs(help_form_name(form)), [this, form] { show_help(form); });
     }
     build_menu();
     kvelder::apply_captions(*this, form_captions());
@@ -398,6 +404,39 @@ void MainWindow::show_load_dialog(LoadGroupId id)
     if (commit_focused_box()) {
         m_load_dialogs[static_cast<std::size_t>(id)]->open_rows();
     }
+}
+
+void MainWindow::show_help(HelpForm form)
+{
+    if (commit_focused_box()) {
+        QWidget* front = QApplication::activeModalWidget();
+        open_help(form, m_model, front != nullptr ? front : this);
+    }
+}
+
+void MainWindow::register_form(const QString& name, std::function<void()> open)
+{
+    m_forms.emplace_back(name, std::move(open));
+}
+
+QStringList MainWindow::form_names() const
+{
+    QStringList names;
+    for (const auto& form : m_forms) {
+        names << form.first;
+    }
+    return names;
+}
+
+bool MainWindow::open_form(const QString& name)
+{
+    for (const auto& [form, open] : m_forms) {
+        if (form == name) {
+            open();
+            return true;
+        }
+    }
+    return false;
 }
 
 bool MainWindow::may_report()

@@ -8,9 +8,11 @@
 #include "ui/file_command.h"
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -65,12 +67,18 @@ public:
     void show_message(const Message& message) override;
     void fail_box(InputBox& box, const std::optional<Message>& message) override;
     void show_load_dialog(LoadGroupId id) override;
+    void show_help(HelpForm form) override;
     bool run_box_rule(InputBox& box, const std::function<BoxResult()>& apply,
                       bool recalculate = true) override;
     bool filling() const override { return is_true(m_model.loading_flag); }
 
     // Redraws the six pictures from the beam at the size of their boxes.
     void redraw_pictures();
+
+    // Every form the window opens, by its objectName, opened as its button or
+    // menu item opens it; false for a name the window has no form of.
+    QStringList form_names() const;
+    bool open_form(const QString& name);
 
 signals:
     void recalculated();
@@ -100,6 +108,8 @@ private:
     void open_recent(int index);
     void open_document(const std::string& name);
     void schedule_redraw();
+    // A form that open_form reaches, opened by `open`.
+    void register_form(const QString& name, std::function<void()> open);
 
     Model& m_model;
     LoadDialogs& m_dialogs;
@@ -123,6 +133,7 @@ private:
     QAction* m_recent_separator = nullptr;
     QMenu* m_file_menu = nullptr;
 
+    std::vector<std::pair<QString, std::function<void()>>> m_forms;
     std::vector<Caption> m_captions; // as last applied
     std::set<Picture> m_blank;
     bool m_running = false; // a recalculation is under way

@@ -4,6 +4,7 @@
 #include "model/message.h"
 #include "model/model.h"
 #include "model/picture.h"
+#include "ui/help_forms.h"
 
 #include <QString>
 
@@ -36,6 +37,8 @@ public:
     virtual void fail_box(InputBox& box, const std::optional<Message>& message) = 0;
     // Opens the load dialog of a group on its rows.
     virtual void show_load_dialog(LoadGroupId id) = 0;
+    // Opens a reference dialog over the window or the dialog in front.
+    virtual void show_help(HelpForm form) = 0;
 
     // A box's rule: `apply` stores the box's text in the beam and returns the
     // box's new text and its failure, if any; `focus` is the box that takes

@@ -12,6 +12,7 @@
 #include "gui/main_window.h"
 #include "gui/prompter.h"
 #include "gui/recent_files_settings.h"
+#include "ui/edits.h"
 #include "ui/load_checks.h"
 
 #include <QApplication>
@@ -70,8 +71,8 @@ bool write_screenshot(QWidget& widget, const fs::path& folder)
     return true;
 }
 
-// The window, then each load dialog opened on the beam's rows.
-int write_screenshots(kvelder::MainWindow& window, const fs::path& folder)
+// The window, then every form it opens, each as its button opens it.
+int write_forms(kvelder::MainWindow& window, const fs::path& folder)
 {
     std::error_code ec;
     fs::create_directories(folder, ec);
@@ -80,21 +81,36 @@ int write_screenshots(kvelder::MainWindow& window, const fs::path& folder)
     if (!write_screenshot(window, folder)) {
         return 2;
     }
-    for (const kvelder::LoadGroupId id : kvelder::kLoadGroups) {
-        window.show_load_dialog(id);
+    for (const QString& name : window.form_names()) {
+        window.open_form(name);
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            std::cerr << "kvelder: the load dialog of " << kvelder::group_name(id) << " did not open\n";
+        if (dialog == nullptr || dialog->objectName() != name) {
+            std::cerr << "kvelder: the form " << name.toStdString() << " did not open\n";
             return 2;
         }
         QApplication::processEvents();
         const bool written = write_screenshot(*dialog, folder);
         dialog->reject();
+        QApplication::processEvents();
         if (!written) {
             return 2;
         }
     }
     return 0;
+}
+
+// Every form in the beam's language in DIR, then in the other language in a
+// folder of its name ("Nor" or "Eng").
+int write_screenshots(kvelder::MainWindow& window, const fs::path& folder)
+{
+    const std::string language = window.model().language;
+    if (const int failed = write_forms(window, folder)) {
+        return failed;
+    }
+    const std::string other = language == "Eng" ? "Nor" : "Eng";
+    kvelder::choose_language(window.model(), other);
+    window.refresh();
+    return write_forms(window, folder / other);
 }
 
 } // namespace

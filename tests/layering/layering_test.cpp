@@ -18,7 +18,7 @@ namespace {
 // but no other folder of its own floor.
 const std::map<std::string, int> kFloor{
     {"model", 0},  {"analysis", 1}, {"design", 1}, {"files", 2}, {"combination", 3}, {"ui", 3},
-    {"recalc", 4}, {"drawing", 5},  {"report", 6}, {"gui", 7},   {"app", 8},
+    {"recalc", 4}, {"drawing", 5},  {"report", 6}, {"help", 7},  {"gui", 8},   {"app", 9},
 };
 
 // The floors of the core library, which links the standard library only.
