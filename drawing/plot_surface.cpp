@@ -190,6 +190,18 @@ void PlotSurface::Print(std::string_view text)
     m_cursor_y += metrics.height();
 }
 
+void PlotSurface::Subscript(std::string_view text)
+{
+    const QFontMetricsF line(m_font, &m_device);
+    QFont small = m_font;
+    small.setPointSizeF(m_font.pointSizeF() * 0.7);
+    const QFontMetricsF metrics(small, &m_device);
+    m_painter.setFont(small);
+    m_painter.setPen(qt_color(m_fore));
+    m_painter.drawText(QPointF(m_cursor_x, m_cursor_y + line.ascent() * 1.25), text_of(text));
+    m_cursor_x += metrics.horizontalAdvance(text_of(text));
+}
+
 float PlotSurface::TextWidth(std::string_view text) const
 {
     const QFontMetricsF metrics(m_font, &m_device);

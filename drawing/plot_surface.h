@@ -83,6 +83,10 @@ public:
     // One string with its top left corner at the cursor; the cursor goes to the
     // left edge of the next text line.
     void Print(std::string_view text);
+    // A subscript to the text before it on the cursor's line: smaller, its
+    // baseline below the line's. The cursor moves on to its right end and
+    // stays on the line, so the text goes on after it.
+    void Subscript(std::string_view text);
     float TextWidth(std::string_view text) const;
     float TextHeight() const;
 

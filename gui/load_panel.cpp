@@ -51,7 +51,13 @@ LoadPanel::LoadPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws(ws)
     m_610a = named<QRadioButton>("Opt_610a", rule);
     m_610b = named<QRadioButton>("Opt_610b", rule);
     auto* rule_help = named<QPushButton>("Cmd_610a_b", rule);
-    rule_help->setEnabled(false); // the annexes' help forms come later
+    connect(rule_help, &QPushButton::clicked, this, [this] {
+        if (const std::optional<HelpForm> form = combination_help(m_ws.model().annex)) {
+            m_ws.show_help(*form);
+        }
+    });
+    connect(m_patterns_help, &QPushButton::clicked, this,
+            [this] { m_ws.show_help(pattern_help(m_ws.model().loadcomb_option)); });
     rule_row->addWidget(m_610a);
     rule_row->addWidget(m_610b);
     rule_row->addWidget(rule_help);
@@ -94,8 +100,7 @@ void LoadPanel::refresh()
     check(m.comb_rule == "610a" ? m_610a : m_610b, true);
     m_total->setEnabled(rules.Opt_loadcomb1);
     m_patterns->setEnabled(rules.Opt_loadcomb2);
-    // Its help forms come with the remaining dialogs.
-    m_patterns_help->setEnabled(false);
+    m_patterns_help->setEnabled(rules.Cmd_loadcomb2);
 }
 
 } // namespace kvelder

@@ -114,7 +114,8 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     auto* buckling_row = frame_layout<QHBoxLayout>(buckling);
     m_buckling = named<QCheckBox>("Check_vipping", buckling);
     m_buckling_input = later_button("Cmd_input_vipping", buckling);
-    m_buckling_text = later_button("Cmd_vipp_text", buckling);
+    m_buckling_text = named<QPushButton>("Cmd_vipp_text", buckling);
+    connect(m_buckling_text, &QPushButton::clicked, this, [this] { m_ws.show_help(HelpForm::Buckling); });
     buckling_row->addWidget(m_buckling);
     buckling_row->addWidget(m_buckling_input);
     buckling_row->addWidget(m_buckling_text);

@@ -87,7 +87,7 @@ SpanPanel::SpanPanel(Workspace& ws, QWidget* parent) : QGroupBox(parent), m_ws(w
     };
     layout->addWidget(support_box("frmSuppLeft", "optSuppLeft", m_left, true), 2, 0, 1, 4);
     auto* help = named<QPushButton>("Cmd_opplegg", this);
-    help->setEnabled(false); // its help form comes with the help pages
+    connect(help, &QPushButton::clicked, this, [this] { m_ws.show_help(HelpForm::Supports); });
     layout->addWidget(help, 2, 4, 2, 1);
     layout->addWidget(support_box("frmSuppRight", "optSuppRight", m_right, false), 3, 0, 1, 4);
 

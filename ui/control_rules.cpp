@@ -20,7 +20,8 @@ ControlRules control_rules(const Model& m)
     const bool one_case = is_true(m.G_empty) || is_true(m.Q1_empty);
     r.Opt_loadcomb1 = !one_case;
     r.Opt_loadcomb2 = !one_case && m.nf >= 2 && !m.Q1.empty();
-    r.Cmd_loadcomb2 = r.Opt_loadcomb2 && m.loadcomb_option != 1;
+    // Its pictures explain either option, so it does not wait for the second.
+    r.Cmd_loadcomb2 = m.nf >= 2 && !m.Q1.empty();
     return r;
 }
 
