@@ -2,6 +2,7 @@
 
 #include "drawing/pictures.h"
 #include "drawing/plot_surface.h"
+#include "gui/buckling_dialog.h"
 #include "gui/captioning.h"
 #include "gui/factor_panel.h"
 #include "gui/input_box.h"
@@ -10,6 +11,7 @@
 #include "gui/picture_box.h"
 #include "gui/prompter.h"
 #include "gui/result_panel.h"
+#include "gui/section_forms.h"
 #include "gui/section_panel.h"
 #include "gui/span_panel.h"
 #include "help/help_dialog.h"
@@ -19,6 +21,7 @@
 #include "ui/captions.h"
 #include "ui/load_dialog.h"
 #include "ui/messages.h"
+#include "ui/section_forms.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -30,6 +33,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -175,6 +179,24 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     for (const HelpForm form : kHelpForms) {
         register_form(qs(help_form_name(form)), [this, form] { show_help(form); });
     }
+    // The forms around the section and the about box, over the window or the dialog in front.
+    const auto form = [this](const char* name, std::function<void(QWidget*)> open) {
+        register_form(QString::fromLatin1(name), [this, open = std::move(open)] {
+            if (commit_focused_box()) {
+                QWidget* front = QApplication::activeModalWidget();
+                open(front != nullptr ? front : this);
+            }
+        });
+    };
+    form(kPropertiesForm, [this](QWidget* parent) { open_section_properties(m_model, parent); });
+    form(kBucklingForm, [this](QWidget* parent) { open_buckling_input(*this, parent); });
+    form(kLefTableForm, [this](QWidget* parent) { open_lef_table(m_model.language, parent); });
+    form(kAboutForm, [this](QWidget* parent) { open_about(m_model.language, parent); });
+    for (auto [button, name] :
+         {std::pair{"Cmd_tverrsnitt", kPropertiesForm}, {"Cmd_input_vipping", kBucklingForm}}) {
+        connect(findChild<QPushButton*>(button), &QPushButton::clicked, this,
+                [this, name = name] { open_form(QString::fromLatin1(name)); });
+    }
     build_menu();
     kvelder::apply_captions(*this, form_captions());
     resize(1024, 737);
@@ -232,7 +254,7 @@ void MainWindow::build_menu()
     help->setObjectName("mnuHjelp");
     item(help, "mnuman", [this] { open_document("Kvelder manual.pdf"); });
     item(help, "mnuUpdate", [this] { open_document("Kvelder Update information.pdf"); });
-    item(help, "mnuabout", nullptr);
+    item(help, "mnuabout", [this] { open_form(QString::fromLatin1(kAboutForm)); });
     show_recent_files();
 }
 

@@ -23,13 +23,6 @@
 namespace kvelder {
 namespace {
 
-QPushButton* later_button(const char* name, QWidget* parent)
-{
-    auto* b = named<QPushButton>(name, parent);
-    b->setEnabled(false); // its form comes with the remaining dialogs
-    return b;
-}
-
 QString text(const std::string& s)
 {
     return QString::fromStdString(as_utf8(s));
@@ -79,7 +72,7 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     dims_grid->addWidget(m_circle, 0, 2);
     m_profile = named<QComboBox>("cboProf", dims);
     dims_grid->addWidget(m_profile, 1, 0, 1, 2);
-    dims_grid->addWidget(later_button("Cmd_tverrsnitt", dims), 1, 2);
+    dims_grid->addWidget(named<QPushButton>("Cmd_tverrsnitt", dims), 1, 2);
     m_b = new InputBox("txt_b1", dims);
     m_h = new InputBox("txt_h1", dims);
     m_d = new InputBox("txt_d", dims);
@@ -113,7 +106,7 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     auto* buckling = named<QGroupBox>("Fra_vipping", this);
     auto* buckling_row = frame_layout<QHBoxLayout>(buckling);
     m_buckling = named<QCheckBox>("Check_vipping", buckling);
-    m_buckling_input = later_button("Cmd_input_vipping", buckling);
+    m_buckling_input = named<QPushButton>("Cmd_input_vipping", buckling);
     m_buckling_text = named<QPushButton>("Cmd_vipp_text", buckling);
     connect(m_buckling_text, &QPushButton::clicked, this, [this] { m_ws.show_help(HelpForm::Buckling); });
     buckling_row->addWidget(m_buckling);

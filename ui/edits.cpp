@@ -28,6 +28,18 @@ void reset_buckling_data(Model& m)
     }
 }
 
+// Braces beyond the span or a factor outside its limits cannot stand for the
+// span: they start again as after a reset.
+void renew_buckling_data(Model& m, int span)
+{
+    if (check_box(m, Box::LStag, m.l_stag(span), span)) {
+        m.l_stag(span) = m.ffl_s(span);
+    }
+    if (check_box(m, Box::LefFactor, m.lef_factor(span))) {
+        m.lef_factor(span) = 0.9F;
+    }
+}
+
 bool rectangles_only(const Model& m)
 {
     return m.prof_type_index >= kKerto;
@@ -172,6 +184,9 @@ std::optional<SpanFailure> set_span_length(Model& m, int span, float length, Loa
     if (auto failure = check_spans(m)) {
         return failure;
     }
+    if (check_box(m, Box::LStag, m.l_stag(span), span)) {
+        m.l_stag(span) = length;
+    }
     ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::G));
     ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::Q1));
     read_all_rows(m, dialogs);
@@ -224,6 +239,37 @@ bool buckling_check_enabled(const Model& m)
 void set_buckling_check(Model& m, bool on)
 {
     m.vipping_off = on ? kFalse : kTrue;
+    if (on) {
+        for (int i = 1; i <= m.nf; ++i) {
+            renew_buckling_data(m, i);
+        }
+    }
+}
+
+std::optional<Message> set_l_stag(Model& m, int span, float l_stag)
+{
+    if (span < 1 || span > m.nf) {
+        return std::nullopt; // no row of the dialog
+    }
+    m.l_stag(span) = l_stag;
+    return check_box(m, Box::LStag, l_stag, span);
+}
+
+std::optional<Message> set_lef_factor(Model& m, int span, float factor)
+{
+    if (span < 1 || span > m.nf) {
+        return std::nullopt;
+    }
+    m.lef_factor(span) = factor;
+    return check_box(m, Box::LefFactor, factor);
+}
+
+void choose_load_location(Model& m, int location)
+{
+    if (location != 0 && location != 1) {
+        return;
+    }
+    m.load_location = static_cast<std::int16_t>(location);
 }
 
 bool service_class_enabled(const Model& m, int service_class)

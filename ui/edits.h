@@ -64,6 +64,7 @@ std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dial
 
 // The length of span `span` (1-based). When every span has a length, the rows
 // of G and Q1 are fitted to the new lengths and all rows are read again.
+// Braces that the new length no longer holds move to the span's ends.
 std::optional<SpanFailure> set_span_length(Model& m, int span, float length, LoadDialogs& dialogs);
 
 enum class BeamEnd { Left, Right };
@@ -87,9 +88,18 @@ void choose_comb_rule(Model& m, std::string_view rule);
 
 // --- Lateral buckling (Check_vipping) ------------------------------------------
 
-// A circle has no buckling check.
+// A circle has no buckling check. Switched on, a span whose braces or factor
+// would fail their check (a span added since, or a project's stale values)
+// starts again from its length and 0.9.
 bool buckling_check_enabled(const Model& m);
 void set_buckling_check(Model& m, bool on);
+
+// Txt_l_stag, Txt_le_fak of span `span` (1 .. nf): stored as typed; the
+// message of one that fails.
+std::optional<Message> set_l_stag(Model& m, int span, float l_stag);
+std::optional<Message> set_lef_factor(Model& m, int span, float factor);
+// Opt_angrepspunkt: 0 the load on the top of the beam, 1 at the bottom.
+void choose_load_location(Model& m, int location);
 
 // --- Classes (frmClass) ------------------------------------------------------------
 

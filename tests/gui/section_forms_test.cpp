@@ -1,0 +1,156 @@
+// The forms around the section, driven from the window: the buckling input by
+// keys and clicks, the section properties and the table of effective lengths.
+
+#include "recalc/main_calc.h"
+#include "tests/gui/window_flow.h"
+
+namespace kvelder::test {
+namespace {
+
+QWidget* front()
+{
+    return QApplication::activeModalWidget();
+}
+
+// The form in front takes the keys: without a window manager nothing activates it.
+bool active_front()
+{
+    QWidget* form = front();
+    if (form == nullptr) {
+        return false;
+    }
+    form->activateWindow();
+    return QTest::qWaitFor([form] { return QApplication::activeWindow() == form; });
+}
+
+// The form closed and gone, so that the next one opened is the one found by name.
+void close_front()
+{
+    QTest::keyClick(front(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST_F(MainWindowFlow, BucklingInputChecksEachBoxAndRecalculatesWhatPasses)
+{
+    start();
+    ASSERT_EQ(model->nf, 2);
+    ASSERT_EQ(model->ffl_s(1), 5.0F);
+    ASSERT_EQ(model->section_h, 405.0F);
+    click("Check_vipping");
+    click("Cmd_input_vipping");
+    ASSERT_TRUE(active_front());
+    ASSERT_EQ(front()->objectName(), "frm_Kvelder_vipp_input");
+    EXPECT_EQ(front()->windowTitle(), "Parametre for lateral torsional buckling");
+    // l_stag 5 x 0.9, and twice the height for a load on the top.
+    EXPECT_EQ(get<InputBox>("Txt_l_stag_0")->text(), "5.00");
+    EXPECT_EQ(text("Lbl_leff_0"), "5.31");
+    EXPECT_EQ(text("Lbl_felt_nr_vipp_1"), " 2");
+    // Spans the beam does not have take no input and show nothing.
+    EXPECT_TRUE(get<InputBox>("Txt_l_stag_2")->text().isEmpty() && !get("Txt_l_stag_2")->isEnabled());
+    EXPECT_TRUE(text("Lbl_felt_nr_vipp_2").isEmpty() && text("Lbl_leff_2").isEmpty() &&
+                text("Lbl_crit_2").isEmpty());
+
+    // Braces beyond the span: refused, green, the focus kept, no run, and the
+    // beam waits at the gate while the value stands.
+    EXPECT_EQ(type("Txt_l_stag_0", "9"), 0);
+    EXPECT_EQ(prompter.messages, QStringList{" l_stag =< 0.30 m or > span"});
+    EXPECT_TRUE(green("Txt_l_stag_0"));
+    EXPECT_EQ(QApplication::focusWidget(), get("Txt_l_stag_0"));
+    EXPECT_EQ(text("Lbl_leff_0"), "5.31");
+    EXPECT_TRUE(data_missing(*model));
+    close_front();
+    click("Check_profilvekt");
+    EXPECT_EQ(prompter.messages.last(), "Data  missing, no executing of stiffness analysis");
+    click("Check_profilvekt");
+    click("Cmd_input_vipping");
+    ASSERT_TRUE(active_front());
+    EXPECT_TRUE(green("Txt_l_stag_0")); // the form comes back on what it refused
+
+    // A value that passes is shown in its format and runs the beam; Enter walks on.
+    prompter.messages.clear();
+    EXPECT_EQ(type("Txt_l_stag_0", "2,5", false), 0);
+    QTest::keyClick(get("Txt_l_stag_0"), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), get("Txt_le_fak_0"));
+    EXPECT_EQ(get<InputBox>("Txt_l_stag_0")->text(), "2.50");
+    EXPECT_FALSE(green("Txt_l_stag_0"));
+    EXPECT_EQ(text("Lbl_leff_0"), "3.06");
+    EXPECT_EQ(text("Lbl_crit_0"), QString::number(model->k_crit(1), 'f', 2));
+    EXPECT_EQ(type("Txt_le_fak_0", "2.1"), 0);
+    EXPECT_EQ(prompter.messages, QStringList{"lef_faktor < 0.2 or > 2.0 "});
+    EXPECT_EQ(type("Txt_le_fak_0", "1"), 1);
+    EXPECT_EQ(text("Lbl_leff_0"), "3.31");
+
+    // The load at the bottom shortens every effective length by half the height.
+    const int runs = window->runs();
+    click("Opt_angrepspunkt_1");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text("Lbl_leff_0"), "2.30");
+    EXPECT_EQ(text("Lbl_leff_1"), "4.30");
+    EXPECT_EQ(prompter.messages.size(), 1);
+
+    click("Cmd_lef");
+    EXPECT_EQ(front()->objectName(), "frm_Kvelder_vipp_le");
+    close_front();
+    click("cmdOK");
+    EXPECT_EQ(front(), nullptr);
+}
+
+TEST_F(MainWindowFlow, SectionPropertiesShowOneRowPerSpanAndTheGrossAreaUnderAzz)
+{
+    start();
+    click("optRect");
+    type("txt_b1", "100");
+    type("txt_h1", "200");
+    click("Cmd_tverrsnitt");
+    ASSERT_EQ(front()->objectName(), "frm_Kvelder_Prop");
+    EXPECT_EQ(front()->windowTitle(), "Section properties");
+    EXPECT_EQ(text("Lbl_azz"), "Az-z");
+    for (const char* k : {"0", "1"}) {
+        const auto cell = [this, k](const char* base) { return text((std::string(base) + "_" + k).c_str()); };
+        EXPECT_EQ(cell("Lblfelt_prop"), QString::number(std::atoi(k) + 1));
+        EXPECT_EQ(cell("Lbl_iyy_val"), "6.667E+07");
+        EXPECT_EQ(cell("Lbl_wyy_val"), "6.667E+05");
+        EXPECT_EQ(cell("Lbl_azz_val"), "2.000E+04"); // Axx; the shear area would be 1.340E+04
+    }
+    for (const char* name : {"Lblfelt_prop_2", "Lbl_iyy_val_2", "Lbl_wyy_val_4", "Lbl_azz_val_4"}) {
+        EXPECT_TRUE(text(name).isEmpty()) << name;
+    }
+    close_front();
+}
+
+TEST_F(MainWindowFlow, TheTableAndTheAboutBoxSpeakTheBeamsLanguage)
+{
+    start();
+    QImage english;
+    for (const std::string language : {"Eng", "Nor"}) {
+        choose_language(*model, language);
+        window->refresh();
+        ASSERT_TRUE(window->open_form("frm_Kvelder_vipp_le"));
+        const bool eng = language == "Eng";
+        EXPECT_EQ(get("Pic_le_eng")->isVisible(), eng);
+        EXPECT_EQ(get("Pic_le_nor")->isVisible(), !eng);
+        EXPECT_EQ(front()->windowTitle(), eng ? "Effective length lef / l" : "Effektiv lengde lef / l");
+        const QImage shown = get<PictureBox>(eng ? "Pic_le_eng" : "Pic_le_nor")->image();
+        QImage white = shown;
+        white.fill(Qt::white);
+        EXPECT_NE(shown, white);
+        if (eng) {
+            english = shown;
+        } else {
+            EXPECT_NE(shown, english); // its own words
+        }
+        close_front();
+
+        get<QAction>("mnuabout")->trigger();
+        ASSERT_EQ(front()->objectName(), "frmAbout");
+        EXPECT_EQ(text("lblDescription"),
+                  eng ? "Analysis of a beam according to EC5" : "Beregning av en bjelke if\u00f8lge EC5");
+        EXPECT_EQ(text("lblVersion"), "Version  1.3.0");
+        click("cmdOK");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(front(), nullptr);
+    }
+}
+
+} // namespace
+} // namespace kvelder::test

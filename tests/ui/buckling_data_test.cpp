@@ -1,0 +1,53 @@
+// The braces and factors of the buckling check: what the window keeps from a
+// beam that changed under them, and what stops the recalculation.
+
+#include "tests/support/beams.h"
+#include "ui/edits.h"
+#include "ui/input_checks.h"
+#include "ui/load_checks.h"
+
+#include <gtest/gtest.h>
+
+namespace kvelder::test {
+namespace {
+
+TEST(BucklingData, BracesTheSpansNoLongerHoldStartAgainAndTypedFailuresHoldTheGate)
+{
+    auto m = example_beam();
+    LoadDialogs d = load_dialogs(*m);
+    set_buckling_check(*m, true);
+    ASSERT_FALSE(set_l_stag(*m, 1, 2.5F));
+    EXPECT_FALSE(window_box_failure(*m));
+
+    // A new span has no length when the braces are reset; its length brings them.
+    choose_span_count(*m, 3, d);
+    set_l_stag(*m, 1, 2.5F);
+    set_span_length(*m, 3, 4.0F, d);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+    // A shorter span keeps braces it still holds and moves the others to its ends.
+    set_span_length(*m, 1, 3.0F, d);
+    set_span_length(*m, 2, 2.0F, d);
+    EXPECT_EQ(m->l_stag(1), 2.5F);
+    EXPECT_EQ(m->l_stag(2), 2.0F);
+    EXPECT_FALSE(window_box_failure(*m));
+
+    // Values left from the check's last use start again when it is switched on.
+    set_buckling_check(*m, false);
+    m->lef_factor(2) = 0, m->l_stag(3) = 9;
+    EXPECT_FALSE(window_box_failure(*m)); // off: nothing reads them
+    set_buckling_check(*m, true);
+    EXPECT_EQ(m->lef_factor(2), 0.9F);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+
+    // What the engineer types is kept, and the beam waits at the gate for it.
+    const auto failure = set_lef_factor(*m, 2, 2.1F);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(m->lef_factor(2), 2.1F);
+    EXPECT_EQ(window_box_failure(*m), failure);
+    EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    choose_load_location(*m, 2); // no option of the dialog
+    EXPECT_EQ(m->load_location, 0);
+}
+
+} // namespace
+} // namespace kvelder::test

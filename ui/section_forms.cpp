@@ -1,0 +1,134 @@
+#include "ui/section_forms.h"
+
+#include "files/number_format.h"
+#include "files/text_number.h"
+#include "ui/edits.h"
+
+namespace kvelder {
+namespace {
+
+struct Pair {
+    const char* control;
+    const char* eng;
+    const char* nor;
+};
+
+std::vector<Caption> pick(const std::string& language, std::initializer_list<Pair> pairs)
+{
+    const bool eng = language == "Eng";
+    std::vector<Caption> captions;
+    for (const Pair& p : pairs) {
+        captions.push_back({p.control, eng ? p.eng : p.nor});
+    }
+    return captions;
+}
+
+} // namespace
+
+std::vector<Caption> properties_captions(const std::string& language)
+{
+    return pick(language, {
+                              {kPropertiesForm, "Section properties", "Tverrsnittsverdier "},
+                              {"Fra_Iyy_Wyy", "(mm4), (mm3), (mm2)", "(mm4), (mm3), (mm2)"},
+                              {"Lbl_felt_prop", "Span", "Felt"},
+                              {"Lbl_iyy", "Iy-y", "Iy-y"},
+                              {"Lbl_wyy", "Wy-y", "Wy-y"},
+                              {"Lbl_azz", "Az-z", "Az-z"},
+                              {"cmdOK", "OK", "OK"},
+                          });
+}
+
+std::vector<Caption> buckling_captions(const std::string& language)
+{
+    return pick(language, {
+                              {kBucklingForm, "Parametre for lateral torsional buckling", "Vippeparametre"},
+                              {"Fra_vipping", "Effective length of beam (m) and kcrit",
+                               "Effektive vippelengde (m)og kcrit"},
+                              {"Lbl_felt_vipp", "Span", "Felt"},
+                              {"Lbl_l_stag", "l_stag", "l_stag"},
+                              {"Lbl_le_fak", "lef_factor", "lef_faktor"},
+                              {"Lbl_leff_head", "lef", "lef"},
+                              {"Lbl_crit_head", "kcrit", "kcrit"},
+                              {"Fra_angrepspunkt", "Location of load", "Angrepspunkt for last"},
+                              {"Opt_angrepspunkt_0", "Top of beam", "Top av bjelke"},
+                              {"Opt_angrepspunkt_1", "Bottom of beam", "Underkantav bjelke"},
+                              {"Lbl_lef_help_0", "lef_factor  =  lef / l,  Ref. EN-1995-1-1, table 6.1  ",
+                               "lef_factor  =  lef / l,  Ref. EN-1995-1-1, table 6.1  "},
+                              {"Lbl_lef_help_1", "Load at top of beam , lef = lef + 2 x h",
+                               "Load at top of beam , lef = lef + 2 x h"},
+                              {"Lbl_lef_help_2", "Load at bottom of beam , lef = lef - 0.5 x h",
+                               "Load at bottom of beam , lef = lef - 0.5 x h"},
+                              {"Cmd_lef", "Table lef / l", "Tabell lef / l"},
+                              {"cmdOK", "OK", "OK"},
+                          });
+}
+
+std::vector<Caption> lef_table_captions(const std::string& language)
+{
+    return pick(language, {
+                              {kLefTableForm, "Effective length lef / l", "Effektiv lengde lef / l"},
+                              {"cmdOK", "OK", "OK"},
+                          });
+}
+
+std::vector<Caption> about_captions(const std::string& language)
+{
+    std::vector<Caption> captions = pick(language, {
+                                                       {kAboutForm, "About Kvelder", "Om Kvelder"},
+                                                       {"cmdOK", "OK", "OK"},
+                                                   });
+    captions.push_back({"lblTitle", program_title()});
+    captions.push_back({"lblDescription", program_line(language)});
+    captions.push_back({"lblVersion", version_line()});
+    return captions;
+}
+
+std::array<PropertyRow, kMaxSpans> property_rows(const Model& m)
+{
+    std::array<PropertyRow, kMaxSpans> rows;
+    for (int i = 1; i <= m.nf && i <= kMaxSpans; ++i) {
+        rows[static_cast<std::size_t>(i - 1)] = {format_number(i, "0"), format_number(m.I_mm4, "0.000E+00"),
+                                                 format_number(m.Wyy, "0.000E+00"),
+                                                 format_number(m.Axx, "0.000E+00")};
+    }
+    return rows;
+}
+
+std::array<BucklingRow, kMaxSpans> buckling_rows(const Model& m)
+{
+    const bool comma = m.decimal_comma != 0;
+    const bool checked = m.vipping_off == 0;
+    std::array<BucklingRow, kMaxSpans> rows;
+    for (int i = 1; i <= m.nf && i <= kMaxSpans; ++i) {
+        BucklingRow& row = rows[static_cast<std::size_t>(i - 1)];
+        row.shown = true;
+        row.span = format_number(i, " 0");
+        row.l_stag = format_number(m.l_stag(i), "0.00", comma);
+        row.lef_factor = format_number(m.lef_factor(i), "0.00", comma);
+        if (checked) {
+            row.l_eff = format_number(m.l_eff(i), "0.00");
+            row.k_crit = format_number(m.k_crit(i), "0.00");
+        }
+        row.l_stag_failed = check_box(m, Box::LStag, m.l_stag(i), i).has_value();
+        row.lef_factor_failed = check_box(m, Box::LefFactor, m.lef_factor(i)).has_value();
+    }
+    return rows;
+}
+
+BoxCommit commit_buckling_box(Model& m, Box box, int span, std::string_view text)
+{
+    if (span < 1 || span > m.nf) {
+        return {std::string(text), std::nullopt}; // no row of the dialog
+    }
+    const Converted<float> c = TextToNumber(text, m.decimal_comma);
+    const float value = c.value.value_or(0.0F);
+    std::optional<Message> failure =
+        box == Box::LStag ? set_l_stag(m, span, value) : set_lef_factor(m, span, value);
+    // A text the conversion refuses stays, so that the engineer sees what was not taken.
+    std::string shown = c.value ? format_number(box == Box::LStag ? m.l_stag(span) : m.lef_factor(span),
+                                                "0.00", m.decimal_comma != 0)
+                                : std::string(text);
+    return {std::move(shown), std::move(failure)};
+}
+
+} // namespace kvelder
