@@ -229,9 +229,9 @@ void MainWindow::build_menu()
     item(print, "mnumax2", [this] { print_report(true); });
     print->addSeparator();
     item(print, "mnupdf", [this] { save_report_pdf(); });
-    for (const auto& [name, open] : {std::pair<const char*, std::function<void()>>{
-                                         "mnusetup", [this] { m_setup->open_setup(); }},
-                                     {"mnuklasse", [this] { m_classes->open_classes(); }}}) {
+    for (const auto& [name, open] :
+         {std::pair<const char*, std::function<void()>>{"mnusetup", [this] { m_setup->open_setup(); }},
+          {"mnuklasse", [this] { m_classes->open_classes(); }}}) {
         QAction* a = menuBar()->addAction(QString());
         a->setObjectName(name);
         connect(a, &QAction::triggered, this, [this, open = open] {
