@@ -29,7 +29,7 @@ void SpanEditToRepaint(benchmark::State& state)
     UnattendedPrompter prompter;
     const std::filesystem::path scratch = std::filesystem::temp_directory_path() / "kvelder-bench";
     std::filesystem::create_directories(scratch);
-    MainWindow window(*m, dialogs, prompter, recent, {{}, scratch});
+    MainWindow window(*m, dialogs, prompter, recent, {{}, scratch, scratch});
     window.show();
     window.begin({}, std::nullopt);
     auto* box = window.findChild<InputBox*>("Txtfelt_0");

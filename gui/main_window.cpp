@@ -4,6 +4,7 @@
 #include "drawing/plot_surface.h"
 #include "gui/buckling_dialog.h"
 #include "gui/captioning.h"
+#include "gui/class_dialog.h"
 #include "gui/factor_panel.h"
 #include "gui/input_box.h"
 #include "gui/load_dialog.h"
@@ -13,6 +14,7 @@
 #include "gui/result_panel.h"
 #include "gui/section_forms.h"
 #include "gui/section_panel.h"
+#include "gui/setup_dialog.h"
 #include "gui/span_panel.h"
 #include "help/help_dialog.h"
 #include "recalc/main_calc.h"
@@ -197,6 +199,10 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         connect(findChild<QPushButton*>(button), &QPushButton::clicked, this,
                 [this, name = name] { open_form(QString::fromLatin1(name)); });
     }
+    m_setup = new SetupDialog(*this, m_folders.data, this);
+    m_classes = new ClassDialog(*this, this);
+    register_form("frmSetup", [this] { m_setup->open_setup(); });
+    register_form("frmClass", [this] { m_classes->open_classes(); });
     build_menu();
     kvelder::apply_captions(*this, form_captions());
     resize(1024, 737);
@@ -245,10 +251,16 @@ void MainWindow::build_menu()
     item(print, "mnumax2", [this] { print_report(true); });
     print->addSeparator();
     item(print, "mnupdf", [this] { save_report_pdf(); });
-    for (const char* name : {"mnusetup", "mnuklasse"}) {
+    for (const auto& [name, open] :
+         {std::pair<const char*, std::function<void()>>{"mnusetup", [this] { m_setup->open_setup(); }},
+          {"mnuklasse", [this] { m_classes->open_classes(); }}}) {
         QAction* a = menuBar()->addAction(QString());
         a->setObjectName(name);
-        a->setEnabled(false); // their dialogs come later
+        connect(a, &QAction::triggered, this, [this, open = open] {
+            if (commit_focused_box()) {
+                open();
+            }
+        });
     }
     QMenu* help = menuBar()->addMenu(QString());
     help->setObjectName("mnuHjelp");

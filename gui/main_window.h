@@ -24,6 +24,7 @@ class QMenu;
 
 namespace kvelder {
 
+class ClassDialog;
 class FactorPanel;
 class InputBox;
 class LoadDialog;
@@ -32,12 +33,14 @@ class PictureBox;
 class Prompter;
 class ResultPanel;
 class SectionPanel;
+class SetupDialog;
 class SpanPanel;
 
 // Where the window finds its documents and leaves the trace of every run.
 struct WindowFolders {
     std::filesystem::path help;    // the manual and the update information
     std::filesystem::path scratch; // "Resultater" and "Geometri"
+    std::filesystem::path data;    // the setup file the program started with, rewritten by the setup dialog
 };
 
 // The one window of the program. It assembles the panels and the menu, and
@@ -129,6 +132,8 @@ private:
     QLabel* m_headline = nullptr;
     std::array<PictureBox*, 6> m_pictures{};
     std::array<LoadDialog*, 3> m_load_dialogs{};
+    SetupDialog* m_setup = nullptr;
+    ClassDialog* m_classes = nullptr;
     std::array<QAction*, kRecentFiles> m_recent_items{};
     QAction* m_recent_separator = nullptr;
     QMenu* m_file_menu = nullptr;

@@ -146,7 +146,7 @@ int main(int argc, char** argv)
         prompter = std::make_unique<kvelder::DialogPrompter>();
     }
     const fs::path help = fs::path(QCoreApplication::applicationDirPath().toStdWString()) / "Help";
-    kvelder::MainWindow window(*model, dialogs, *prompter, *recent, {help, {}});
+    kvelder::MainWindow window(*model, dialogs, *prompter, *recent, {help, {}, data});
     window.show();
     window.begin(notes, args->project);
     if (args->screenshots) {

@@ -137,9 +137,16 @@ protected:
         model = std::make_unique<Model>();
         recent.keys.clear();
         prompter.messages.clear();
-        const std::vector<DataFileNote> notes = start_up(*model, source_data_dir());
+        // A copy of the shipped data that the setup dialog may rewrite; a second
+        // start in the same test reads what the first left there.
+        const fs::path data = m_folder / "data";
+        if (!fs::exists(data)) {
+            fs::copy(source_data_dir(), data);
+        }
+        const std::vector<DataFileNote> notes = start_up(*model, data);
         dialogs = load_dialogs(*model);
-        window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent, WindowFolders{{}, m_folder});
+        window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent,
+                                              WindowFolders{{}, m_folder, data});
         window->show();
         window->begin(notes, project);
         window->activateWindow();

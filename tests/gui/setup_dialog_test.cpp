@@ -1,0 +1,170 @@
+// The setup and classes dialogs driven from the menu with keys and clicks.
+
+#include "tests/gui/window_flow.h"
+
+#include <QDialog>
+#include <QPushButton>
+
+namespace kvelder::test {
+namespace {
+
+class SetupDialogFlow : public MainWindowFlow {
+protected:
+    // Clicks the menu bar's item and waits for its dialog to be the active window.
+    QDialog* open_by_menu(const char* item, const char* form)
+    {
+        QMenuBar* bar = window->menuBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(get<QAction>(item)).center());
+        auto* d = get<QDialog>(form);
+        EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeModalWidget() == d; })) << form;
+        d->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; })) << form;
+        return d;
+    }
+    bool focus_in(QDialog* d, const char* name)
+    {
+        d->activateWindow();
+        return QTest::qWaitFor([d] { return QApplication::activeWindow() == d; }) &&
+               QApplication::focusWidget() == get(name);
+    }
+    // Both dialogs have their Cmd_ok.
+    void ok(QDialog* d) { QTest::mouseClick(d->findChild<QPushButton*>("Cmd_ok"), Qt::LeftButton); }
+    void choose(const char* combo, Qt::Key key)
+    {
+        auto* c = get<QComboBox>(combo);
+        c->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(c, key);
+    }
+};
+
+TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIsWhatTheNextStartReads)
+{
+    start(); // the Norwegian annex, a laminated beam: gamma_M 1.15
+    EXPECT_EQ(text("Lbl_gamma2"), "1.15 ");
+    const QString fmd = text("Lbl_fmd2");
+    QDialog* setup = open_by_menu("mnusetup", "frmSetup");
+    EXPECT_TRUE(get("Fra_class_nor")->isVisible());
+    EXPECT_FALSE(get("Fra_sik_class")->isVisible());
+
+    int runs = window->runs();
+    choose("cmbCountry", Qt::Key_End); // "EC5 + EN 1990 recommended"
+    EXPECT_EQ(get<QComboBox>("cmbCountry")->currentText(), "EC5 + EN 1990 recommended");
+    EXPECT_FALSE(get("Fra_class_nor")->isVisible());
+    EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.25");
+    EXPECT_EQ(window->runs(), runs); // nothing counts before OK
+    EXPECT_EQ(text("Lbl_gamma2"), "1.15 ");
+    ok(setup);
+    EXPECT_FALSE(setup->isVisible());
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text("Lbl_gamma2"), "1.25 ");
+    EXPECT_NE(text("Lbl_fmd2"), fmd);
+    EXPECT_TRUE(window->windowTitle().contains("EN 1990 recommended"));
+
+    // An edit recalculates at once; Norwegian turns the window and the dialog,
+    // and the window's lists keep their choices.
+    open_by_menu("mnusetup", "frmSetup");
+    runs = window->runs();
+    EXPECT_EQ(type("Txt_gamma_lam", "1,4"), 1);
+    EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.40");
+    EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
+    const int family = get<QComboBox>("cboProfType")->currentIndex();
+    click("Cmd_nor");
+    EXPECT_EQ(frame("Fra_beam"), "Bjelketype og Material");
+    EXPECT_EQ(get<QComboBox>("cboProfType")->currentIndex(), family);
+    EXPECT_EQ(frame("Fra_part_fac"), "Partialfaktorer");
+    EXPECT_EQ(setup->windowTitle(), "Setup");
+    EXPECT_EQ(window->runs(), runs + 1);
+
+    // A change of country keeps what was edited in the row left.
+    choose("cmbCountry", Qt::Key_Home);
+    choose("cmbCountry", Qt::Key_End);
+    EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.40");
+    EXPECT_EQ(frame("Fra_part_fac"), "Partialfaktorer");
+
+    const std::string shipped = contents(m_folder / "data" / "Kveldersetup.csv");
+    click("Cmd_save");
+    EXPECT_TRUE(prompter.messages.isEmpty()) << prompter.messages.join('|').toStdString();
+    EXPECT_NE(contents(m_folder / "data" / "Kveldersetup.csv"), shipped);
+    ok(setup);
+
+    start();
+    EXPECT_EQ(model->language, "Nor");
+    EXPECT_EQ(model->annex, "Euc");
+    EXPECT_EQ(model->gamma_lam, 1.4F);
+    EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
+    EXPECT_EQ(frame("Fra_beam"), "Bjelketype og Material");
+}
+
+TEST_F(SetupDialogFlow, AFactorOfPointOneHoldsTheDialogAndTheTitleBarLeavesAWorkingWindow)
+{
+    start();
+    const std::string file = contents(m_folder / "data" / "Kveldersetup.csv");
+    QDialog* setup = open_by_menu("mnusetup", "frmSetup");
+    int runs = window->runs();
+    EXPECT_EQ(type("Txt_kcr_lam", "0.1"), 0);
+    EXPECT_EQ(prompter.messages, QStringList{"Number is <= 0.1 "});
+    EXPECT_TRUE(green("Txt_kcr_lam"));
+    EXPECT_TRUE(focus_in(setup, "Txt_kcr_lam"));
+
+    // Neither OK nor Save gets past it, and no run starts.
+    ok(setup);
+    click("Cmd_save");
+    EXPECT_TRUE(setup->isVisible());
+    EXPECT_TRUE(focus_in(setup, "Txt_kcr_lam"));
+    EXPECT_EQ(contents(m_folder / "data" / "Kveldersetup.csv"), file);
+    EXPECT_EQ(window->runs(), runs);
+
+    EXPECT_EQ(type("Txt_kcr_lam", "0.11"), 1);
+    EXPECT_FALSE(green("Txt_kcr_lam"));
+    EXPECT_EQ(model->kcr_lam, 0.11F);
+
+    // The title bar closes on a refused value, which gives way to the last taken.
+    prompter.messages.clear();
+    EXPECT_EQ(type("Txt_kcr_lam", "0"), 0);
+    EXPECT_EQ(prompter.messages.size(), 1);
+    setup->close();
+    EXPECT_FALSE(setup->isVisible());
+    EXPECT_EQ(model->kcr_lam, 0.11F);
+    EXPECT_EQ(model->loading_flag, kFalse);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_EQ(type("Txtfelt_0", "7"), 1);
+    EXPECT_EQ(model->ffl_s(1), 7.0F);
+    EXPECT_EQ(prompter.messages.size(), 1);
+}
+
+TEST_F(SetupDialogFlow, TheClassesOfAnLvlBeamLackServiceClassThreeAndKsysHoldsTheDialogAbove1Point2)
+{
+    start();
+    choose("cboProfType", Qt::Key_Down); // laminated to kerto
+    ASSERT_EQ(model->material_family, "kerto     ");
+    QDialog* classes = open_by_menu("mnuklasse", "frmClass");
+    EXPECT_FALSE(get("Opt_klimaklasse_2")->isEnabled());
+    EXPECT_TRUE(get("Opt_klimaklasse_1")->isEnabled());
+
+    int runs = window->runs();
+    click("Opt_Lastvarighet_4");
+    EXPECT_EQ(model->duration_class, 5);
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text("Lbl_kmod2"), "1.10 ");
+
+    EXPECT_EQ(type("Txt_ksy", "1.2"), 1);
+    EXPECT_EQ(text("Lbl_ksy2"), "1.20");
+    runs = window->runs();
+    EXPECT_EQ(type("Txt_ksy", "1.21"), 0);
+    EXPECT_EQ(prompter.messages, QStringList{" 1 <= ksys <= 1.2"});
+    EXPECT_TRUE(green("Txt_ksy"));
+    EXPECT_EQ(model->ksys, 1.21F);
+    ok(classes);
+    EXPECT_TRUE(classes->isVisible());
+    EXPECT_TRUE(focus_in(classes, "Txt_ksy"));
+    EXPECT_EQ(window->runs(), runs);
+
+    EXPECT_EQ(type("Txt_ksy", "1.1"), 1);
+    ok(classes);
+    EXPECT_FALSE(classes->isVisible());
+    EXPECT_EQ(text("Lbl_ksy2"), "1.10");
+}
+
+} // namespace
+} // namespace kvelder::test
