@@ -2,6 +2,8 @@
 
 #include "drawing/glyphs.h"
 
+#include <algorithm>
+
 namespace kvelder {
 namespace {
 
@@ -48,7 +50,7 @@ void PlotSectionSketch(PlotSurface& s, TrialSection kind)
     }
     if (kind == TrialSection::Circle) {
         s.Line(25, 50, 65, 50, kBlack);
-        PrintAt(s, 70, 56, "d");
+        PrintAt(s, 80, 56, "d");
     } else {
         PrintAt(s, 42, 12, "b");
         PrintAt(s, 64, 56, "h");

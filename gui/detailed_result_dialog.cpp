@@ -119,6 +119,14 @@ void DetailedResultDialog::open_first_span()
         open();
     }
     draw();
+    // The first trial box takes the focus; a profile has none.
+    for (InputBox* box : {m_b, m_d}) {
+        if (box->isVisibleTo(this)) {
+            box->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+    findChild<QPushButton*>("Cmd_ok")->setFocus(Qt::OtherFocusReason);
 }
 
 void DetailedResultDialog::arrange()

@@ -44,7 +44,9 @@ ResultGridDialog::ResultGridDialog(Workspace& ws, QWidget* parent) : QDialog(par
     m_grid->setWordWrap(true);
     m_grid->setSelectionMode(QAbstractItemView::NoSelection);
     m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_grid->verticalHeader()->setMinimumSectionSize(4);
     m_grid->verticalHeader()->setDefaultSectionSize(20);
+    m_grid->setFocusPolicy(Qt::NoFocus);
     column->addWidget(m_grid, 1);
     resize(860, 600);
 }
@@ -93,6 +95,7 @@ void ResultGridDialog::fill()
         m_grid->setColumnWidth(c, c == 0 ? share * 3 / 4 : c == kGridColumns - 1 ? share / 4 : share);
     }
     m_grid->setRowHeight(kGridHeadRows - 1, 6);
+    m_grid->setCurrentCell(-1, -1);
 }
 
 } // namespace kvelder
