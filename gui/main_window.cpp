@@ -5,12 +5,14 @@
 #include "gui/buckling_dialog.h"
 #include "gui/captioning.h"
 #include "gui/class_dialog.h"
+#include "gui/detailed_result_dialog.h"
 #include "gui/factor_panel.h"
 #include "gui/input_box.h"
 #include "gui/load_dialog.h"
 #include "gui/load_panel.h"
 #include "gui/picture_box.h"
 #include "gui/prompter.h"
+#include "gui/result_grid_dialog.h"
 #include "gui/result_panel.h"
 #include "gui/section_forms.h"
 #include "gui/section_panel.h"
@@ -203,6 +205,29 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     m_classes = new ClassDialog(*this, this);
     register_form("frmSetup", [this] { m_setup->open_setup(); });
     register_form("frmClass", [this] { m_classes->open_classes(); });
+    // The results of the last run: the checks of one span, and the grid along the beam.
+    auto* detailed = new DetailedResultDialog(*this, *findChild<QWidget*>("frmDimension"), this);
+    auto* along = new ResultGridDialog(*this, this);
+    register_form("frm_Kvelder_detailedresult", [this, detailed] {
+        if (commit_focused_box()) {
+            detailed->open_first_span();
+        }
+    });
+    register_form("frm_B_grid_mom_Shear_disp_comb", [this, along] {
+        if (commit_focused_box()) {
+            along->open();
+        }
+    });
+    for (auto [button, form] : {std::pair{"cmd_detres", "frm_Kvelder_detailedresult"},
+                                {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"}}) {
+        connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, form = form] {
+            // The click has left a box already; one that refused keeps the focus.
+            auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
+            if (box == nullptr || !box->failed()) {
+                open_form(form);
+            }
+        });
+    }
     build_menu();
     kvelder::apply_captions(*this, form_captions());
     resize(1024, 737);
@@ -311,6 +336,7 @@ void MainWindow::recalculate()
     }
     ++m_runs;
     m_running = false;
+    m_results->set_checks_run(past_gate);
     refresh();
     // The failing load row's dialog and the messages of the run come now that
     // it is over, so that nothing modal opens inside it.

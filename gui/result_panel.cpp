@@ -72,13 +72,20 @@ ResultPanel::ResultPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
 
     auto* along = named<QGroupBox>("Frakrefter", this);
     auto* buttons = frame_layout<QVBoxLayout>(along);
-    for (const char* name : {"Cmd_grid_krefter", "cmd_detres"}) {
-        auto* button = named<QPushButton>(name, along);
-        button->setEnabled(false); // the result grid and detailed results come later
-        buttons->addWidget(button);
+    for (std::size_t k = 0; k < m_forms.size(); ++k) {
+        m_forms[k] = named<QPushButton>(k == 0 ? "Cmd_grid_krefter" : "cmd_detres", along);
+        m_forms[k]->setEnabled(false); // until a run has checked the beam
+        buttons->addWidget(m_forms[k]);
     }
     buttons->addStretch();
     row->addWidget(along, 1);
+}
+
+void ResultPanel::set_checks_run(bool run)
+{
+    for (QPushButton* button : m_forms) {
+        button->setEnabled(run);
+    }
 }
 
 void ResultPanel::show(QLabel* label, const ResultCell& cell)

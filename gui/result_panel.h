@@ -5,6 +5,7 @@
 #include <array>
 
 class QLabel;
+class QPushButton;
 
 namespace kvelder {
 
@@ -19,6 +20,9 @@ class ResultPanel : public QWidget {
 public:
     ResultPanel(Workspace& ws, QWidget* parent);
     void refresh();
+    // The results along the beam and the detailed results need a run that
+    // got past the gate and checked the beam.
+    void set_checks_run(bool run);
 
 private:
     static void show(QLabel* label, const ResultCell& cell);
@@ -28,6 +32,8 @@ private:
     std::array<std::array<QLabel*, 6>, 5> m_spans{};
     // Lbl_opp_nr, Lbl_kc90, Lbl_uf_trykk of each node.
     std::array<std::array<QLabel*, 3>, 6> m_nodes{};
+    // Cmd_grid_krefter, cmd_detres.
+    std::array<QPushButton*, 2> m_forms{};
 };
 
 } // namespace kvelder

@@ -15,8 +15,6 @@ namespace {
 
 using Align = TableCell::Align;
 
-constexpr float kSamePlace = 1e-4F; // m
-
 // Right edges of the columns of both tables, mm from the section's x.
 constexpr float kSpan = 10, kPosition = 24;
 constexpr float kShearMax = 35, kShearMin = 51, kMomentMax = 67, kMomentMin = 83, kDeflectionMax = 100,
@@ -47,39 +45,7 @@ TableLine max_min_heads(const Model& m, std::initializer_list<float> max_edges)
     return line;
 }
 
-// The fine point nearest to x: the coarse grid's places are all on the fine
-// grid, up to the rounding of the two divisions.
-int fine_point(const Model& m, int span, float x)
-{
-    int best = 1;
-    for (int j = 2; j <= m.nxtot_s(span); ++j) {
-        if (std::abs(m.xl_s(span, j) - x) < std::abs(m.xl_s(span, best) - x)) {
-            best = j;
-        }
-    }
-    return best;
-}
-
 } // namespace
-
-std::vector<DetailPoint> detail_points(const Model& m)
-{
-    std::vector<DetailPoint> points;
-    for (int i = 1; i <= m.nf; ++i) {
-        std::vector<float> xs;
-        for (int j = 1; j <= m.nxtot10_s(i); ++j) {
-            xs.push_back(m.xl10_s(i, j));
-        }
-        std::sort(xs.begin(), xs.end());
-        for (std::size_t k = 0; k < xs.size(); ++k) {
-            if (k > 0 && xs[k] - points.back().x <= kSamePlace) {
-                continue;
-            }
-            points.push_back({i, xs[k], fine_point(m, i, xs[k])});
-        }
-    }
-    return points;
-}
 
 std::vector<TableLine> force_lines(const Model& m)
 {

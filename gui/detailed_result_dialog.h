@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ui/input_checks.h"
+
+#include <QDialog>
+
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace kvelder {
+
+class InputBox;
+class PictureBox;
+class Workspace;
+
+// The section checks of one span in words and numbers
+// (frm_Kvelder_detailedresult). Its trial sizes are the beam's own: leaving a
+// trial box changes the section, shows the size in the main window's box
+// too, and recalculates.
+class DetailedResultDialog : public QDialog {
+    Q_OBJECT
+public:
+    // `main_sizes` holds the main window's boxes txt_b1, txt_h1 and txt_d.
+    DetailedResultDialog(Workspace& ws, QWidget& main_sizes, QWidget* parent);
+
+    // Opens, modal, on span 1 with the section controls of the beam.
+    void open_first_span();
+
+private:
+    void arrange();
+    void draw();
+    void draw_section();
+    bool trial_rule(InputBox& box, Box kind);
+    void close_unless_refused();
+
+    Workspace& m_ws;
+    QWidget& m_main_sizes;
+    int m_span = 1;
+    std::array<QRadioButton*, 5> m_options{};
+    QLineEdit* m_profile = nullptr;
+    InputBox* m_b = nullptr;
+    InputBox* m_h = nullptr;
+    InputBox* m_d = nullptr;
+    QLabel* m_b_label = nullptr;
+    QLabel* m_h_label = nullptr;
+    QLabel* m_d_label = nullptr;
+    PictureBox* m_rect_picture = nullptr;
+    PictureBox* m_tube_picture = nullptr;
+    PictureBox* m_text = nullptr;
+};
+
+} // namespace kvelder

@@ -1,0 +1,119 @@
+// The detailed results and the result grid as the engineer opens and drives them.
+
+#include "tests/gui/window_flow.h"
+#include "ui/result_grid.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace kvelder::test {
+namespace {
+
+class ResultFormsFlow : public MainWindowFlow {
+protected:
+    QDialog* opened(const char* button, const char* form)
+    {
+        click(button);
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        EXPECT_TRUE(dialog != nullptr && dialog->objectName() == form) << form;
+        return dialog;
+    }
+    // Types into a box of the dialog in front and leaves it by Tab.
+    static void type_in(QDialog* dialog, const char* name, const QString& text)
+    {
+        auto* box = dialog->findChild<InputBox*>(name);
+        ASSERT_NE(box, nullptr) << name;
+        QTest::mouseClick(box, Qt::LeftButton);
+        QApplication::processEvents();
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Tab);
+    }
+    static QImage text_picture(QDialog* dialog)
+    {
+        return dialog->findChild<PictureBox*>("Pic_detailed")->image();
+    }
+};
+
+TEST_F(ResultFormsFlow, ATrialHeightChangesTheBeamAndTheMainWindowOrIsRefusedKeepingThePicture)
+{
+    start();
+    click("optRect");
+    QDialog* d = opened("cmd_detres", "frm_Kvelder_detailedresult");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->windowTitle(), "Detailed results");
+    EXPECT_FALSE(d->findChild<QLineEdit*>("Txt_stand_dim")->isVisible());
+    EXPECT_FALSE(d->findChild<QWidget*>("Txt_d_tube")->isVisible());
+    ASSERT_EQ(model->nf, 2);
+    EXPECT_TRUE(d->findChild<QWidget*>("Optspandet_1")->isVisible());
+    EXPECT_FALSE(d->findChild<QWidget*>("Optspandet_2")->isVisible());
+    const QImage span_1 = text_picture(d);
+    QTest::mouseClick(d->findChild<QWidget*>("Optspandet_1"), Qt::LeftButton, {}, QPoint(6, 8));
+    EXPECT_NE(text_picture(d), span_1);
+
+    const QString usage = text("lbl_mom_0");
+    const QImage before = text_picture(d);
+    const int runs = window->runs();
+    type_in(d, "txt_h1", "200");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(model->section_h, 200.0F);
+    EXPECT_EQ(get<InputBox>("txt_h1")->text(), "200");
+    EXPECT_NE(text("lbl_mom_0"), usage);
+    const QImage after = text_picture(d);
+    EXPECT_NE(after, before);
+
+    // A height of 0: the message, the focus stays, the picture and results stand.
+    type_in(d, "txt_h1", "0");
+    EXPECT_EQ(prompter.messages, QStringList{" h =< 0 "});
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text_picture(d), after);
+    EXPECT_EQ(QApplication::focusWidget(), d->findChild<InputBox*>("txt_h1"));
+    EXPECT_EQ(get<InputBox>("txt_h1")->text(), "0");
+    EXPECT_TRUE(green("txt_h1"));
+    QTest::mouseClick(d->findChild<QPushButton*>("Cmd_ok"), Qt::LeftButton);
+    EXPECT_TRUE(d->isVisible()); // the refused box keeps the window
+    EXPECT_EQ(prompter.messages.size(), 2);
+    d->reject();
+
+    // The beam stays at the gate until the height is put right.
+    click("Opt_610a");
+    EXPECT_EQ(prompter.messages.last(), "Data  missing, no executing of stiffness analysis");
+    EXPECT_FALSE(get("cmd_detres")->isEnabled());
+    EXPECT_FALSE(get("Cmd_grid_krefter")->isEnabled());
+    type("txt_h1", "300");
+    EXPECT_TRUE(get("cmd_detres")->isEnabled());
+}
+
+TEST_F(ResultFormsFlow, TheGridListsTheBeamFromTheLastRunEachTimeItOpens)
+{
+    start();
+    QDialog* d = opened("Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->windowTitle(), "Results along the beam");
+    auto* grid = d->findChild<QTableWidget*>("Grid");
+    const ResultGrid texts = result_grid(*model);
+    ASSERT_EQ(grid->rowCount(), kGridHeadRows + static_cast<int>(texts.rows.size()));
+    EXPECT_EQ(grid->columnSpan(0, 0), 6);
+    EXPECT_EQ(grid->item(1, 2)->text(), "Shear (kN)");
+    EXPECT_EQ(grid->item(4, 0)->text(), "1");
+    EXPECT_EQ(grid->item(4, 1)->text(), "0.000");
+    EXPECT_EQ(grid->item(4, 6)->text(), QString::fromStdString(texts.rows[0].cells[6]));
+    EXPECT_EQ(grid->item(4, 6)->background().color(), QColor(192, 192, 192));
+    EXPECT_EQ(grid->item(5, 6)->text(), "");
+    d->reject();
+
+    // A Norwegian project of three spans, at the next opening.
+    auto three = three_spans();
+    three->language = "Nor";
+    prompter.file_names = {write("three.kvel", *three)};
+    keys(QKeySequence::Open);
+    d = opened("Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb");
+    EXPECT_EQ(d->windowTitle(), "Resultater langs bjelken");
+    EXPECT_EQ(grid->rowCount(), kGridHeadRows + static_cast<int>(result_grid(*model).rows.size()));
+    EXPECT_EQ(grid->item(1, 0)->text(), "Felt");
+}
+
+} // namespace
+} // namespace kvelder::test
