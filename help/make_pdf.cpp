@@ -49,7 +49,8 @@ QString first_heading(const QTextDocument& doc)
 }
 
 // Room around headings, shaded code blocks and ruled tables: Qt's reading of
-// Markdown leaves them bare. Lengths are in points.
+// Markdown leaves them bare. Lengths are screen pixels, which the layout scales
+// to the page.
 void style(QTextDocument& doc)
 {
     const auto code = [](const QTextBlock& b) {

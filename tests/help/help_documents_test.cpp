@@ -20,14 +20,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Run {
+struct Output {
     int code = -1;
     std::string out;
 };
 
-Run run(const std::string& command)
+Output run(const std::string& command)
 {
-    Run r;
+    Output r;
     FILE* pipe = popen((command + " 2>/dev/null").c_str(), "r");
     if (pipe == nullptr) {
         return r;
@@ -75,7 +75,7 @@ TEST(HelpDocuments, EveryHeadingOfTheMarkdownIsTextInTheBuiltPdf)
          {std::pair{"manual.md", "Kvelder manual.pdf"}, {"update.md", "Kvelder Update information.pdf"}}) {
         const fs::path built = fs::path(KVELDER_HELP_DIR) / pdf;
         ASSERT_TRUE(fs::is_regular_file(built)) << built;
-        const Run text = run("pdftotext -enc UTF-8 " + quoted(built) + " -");
+        const Output text = run("pdftotext -enc UTF-8 " + quoted(built) + " -");
         ASSERT_EQ(text.code, 0) << built;
         const std::vector<std::string> wanted = headings(sources / source);
         EXPECT_GE(wanted.size(), 3U) << source;
