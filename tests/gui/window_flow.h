@@ -67,7 +67,12 @@ public:
     }
     std::optional<QString> open_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
     std::optional<QString> save_file_name(QWidget* p, const QString&) override { return next(p, file_names); }
-    bool open_document(const QString&) override { return false; }
+    QStringList opened; // the documents the window had opened, in order
+    bool open_document(const QString& path) override
+    {
+        opened << path;
+        return true;
+    }
     // A printer that writes a PDF to `printer_file`; cancelled while it is empty.
     QString printer_file;
     bool choose_printer(QWidget* p, QPrinter& printer) override
@@ -146,7 +151,7 @@ protected:
         const std::vector<DataFileNote> notes = start_up(*model, data);
         dialogs = load_dialogs(*model);
         window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent,
-                                              WindowFolders{{}, m_folder, data});
+                                              WindowFolders{help_folder, m_folder, data});
         window->show();
         window->begin(notes, project);
         window->activateWindow();
@@ -210,10 +215,10 @@ protected:
         QWidget* target = QApplication::focusWidget();
         QTest::keySequence(target != nullptr ? target : window.get(), QKeySequence(key));
     }
-    // Opens the file menu with the mouse and clicks one of its items.
-    void menu(const char* name)
+    // Opens a menu with the mouse and clicks one of its items.
+    void menu(const char* name, const char* menu_name = "mnufile")
     {
-        auto* file = get<QMenu>("mnufile");
+        auto* file = get<QMenu>(menu_name);
         QMenuBar* bar = window->menuBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(file->menuAction()).center());
         ASSERT_TRUE(QTest::qWaitForWindowExposed(file));
@@ -237,6 +242,7 @@ protected:
     }
 
     const fs::path m_folder = scratch_folder() / "window";
+    fs::path help_folder; // where the window finds its manual
     ScriptedPrompter prompter;
     RecentFilesInMemory recent;
     std::unique_ptr<Model> model;

@@ -1,0 +1,108 @@
+// The manual and the update information as the build lays them out beside the
+// program, and the tool that lays them out.
+
+#include "tests/support/beams.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace kvelder::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Output {
+    int code = -1;
+    std::string out;
+};
+
+Output run(const std::string& command)
+{
+    Output r;
+    FILE* pipe = popen((command + " 2>/dev/null").c_str(), "r");
+    if (pipe == nullptr) {
+        return r;
+    }
+    char buffer[4096];
+    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) {
+        r.out.append(buffer, n);
+    }
+    const int status = pclose(pipe);
+    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return r;
+}
+
+std::string quoted(const fs::path& path)
+{
+    return "'" + path.string() + "'";
+}
+
+std::string collapsed(const std::string& text)
+{
+    return std::regex_replace(text, std::regex(R"(\s+)"), " ");
+}
+
+// The headings of a Markdown file as they read, without marks and code fences.
+std::vector<std::string> headings(const fs::path& markdown)
+{
+    std::vector<std::string> found;
+    std::ifstream in(markdown);
+    bool code = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line.starts_with("```")) {
+            code = !code;
+        } else if (!code && line.starts_with('#')) {
+            line = std::regex_replace(line, std::regex(R"(^#+\s*|[`*])"), "");
+            found.push_back(collapsed(line));
+        }
+    }
+    return found;
+}
+
+TEST(HelpDocuments, EveryHeadingOfTheMarkdownIsTextInTheBuiltPdf)
+{
+    const fs::path sources = KVELDER_HELP_SOURCES;
+    for (const auto& [source, pdf] :
+         {std::pair{"manual.md", "Kvelder manual.pdf"}, {"update.md", "Kvelder Update information.pdf"}}) {
+        const fs::path built = fs::path(KVELDER_HELP_DIR) / pdf;
+        ASSERT_TRUE(fs::is_regular_file(built)) << built;
+        const Output text = run("pdftotext -enc UTF-8 " + quoted(built) + " -");
+        ASSERT_EQ(text.code, 0) << built;
+        const std::vector<std::string> wanted = headings(sources / source);
+        EXPECT_GE(wanted.size(), 3U) << source;
+        for (const std::string& heading : wanted) {
+            EXPECT_NE(collapsed(text.out).find(heading), std::string::npos) << pdf << ": " << heading;
+        }
+    }
+}
+
+TEST(HelpDocuments, TheToolRefusesWhatItCannotReadOrWriteAndLeavesTheOldFile)
+{
+    const fs::path folder = scratch_folder() / "make_pdf";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    const fs::path old_pdf = folder / "old.pdf";
+    std::ofstream(old_pdf) << "old";
+    const std::string tool = quoted(KVELDER_MAKE_PDF);
+
+    EXPECT_EQ(run(tool + " " + quoted(folder / "missing.md") + " " + quoted(old_pdf)).code, 2);
+    std::ifstream in(old_pdf);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "old");
+
+    const fs::path manual = fs::path(KVELDER_HELP_SOURCES) / "manual.md";
+    EXPECT_EQ(run(tool + " " + quoted(manual) + " " + quoted(folder / "no folder" / "out.pdf")).code, 2);
+    EXPECT_EQ(run(tool + " " + quoted(manual)).code, 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
+}
+
+} // namespace
+} // namespace kvelder::test
