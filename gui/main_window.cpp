@@ -180,51 +180,46 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     for (const char* name : {"Cmd_opplegg", "Cmd_loadcomb2", "Cmd_610a_b", "Cmd_vipp_text"}) {
         findChild<QWidget*>(name)->setMaximumWidth(28);
     }
-    for (const HelpForm form : kHelpForms) {
-        register_form(qs(help_form_name(form)), [this, form] { show_help(form); });
+    for (const HelpForm help : kHelpForms) {
+        register_form(qs(help_form_name(help)), [this, help] { show_help(help); });
     }
-    // The forms around the section and the about box, over the window or the dialog in front.
-    const auto form = [this](const char* name, std::function<void(QWidget*)> open) {
-        register_form(QString::fromLatin1(name), [this, open = std::move(open)] {
-            if (commit_focused_box()) {
-                QWidget* front = QApplication::activeModalWidget();
-                open(front != nullptr ? front : this);
-            }
-        });
+    // The dialogs over the window, or over the dialog in front, which opened them.
+    const auto front = [this]() -> QWidget* {
+        QWidget* modal = QApplication::activeModalWidget();
+        return modal != nullptr ? modal : this;
     };
-    form(kPropertiesForm, [this](QWidget* parent) { open_section_properties(m_model, parent); });
-    form(kBucklingForm, [this](QWidget* parent) { open_buckling_input(*this, parent); });
-    form(kLefTableForm, [this](QWidget* parent) { open_lef_table(m_model.language, parent); });
-    form(kAboutForm, [this](QWidget* parent) { open_about(m_model.language, parent); });
-    for (auto [button, name] :
-         {std::pair{"Cmd_tverrsnitt", kPropertiesForm}, {"Cmd_input_vipping", kBucklingForm}}) {
-        connect(findChild<QPushButton*>(button), &QPushButton::clicked, this,
-                [this, name = name] { open_form(QString::fromLatin1(name)); });
-    }
     m_setup = new SetupDialog(*this, m_folders.data, this);
     m_classes = new ClassDialog(*this, this);
-    register_form("frmSetup", [this] { m_setup->open_setup(); });
-    register_form("frmClass", [this] { m_classes->open_classes(); });
-    // The results of the last run: the checks of one span, and the grid along the beam.
     auto* detailed = new DetailedResultDialog(*this, *findChild<QWidget*>("frmDimension"), this);
     auto* along = new ResultGridDialog(*this, this);
-    register_form("frm_Kvelder_detailedresult", [this, detailed] {
-        if (commit_focused_box()) {
-            detailed->open_first_span();
-        }
-    });
-    register_form("frm_B_grid_mom_Shear_disp_comb", [this, along] {
-        if (commit_focused_box()) {
-            along->open();
-        }
-    });
-    for (auto [button, form] : {std::pair{"cmd_detres", "frm_Kvelder_detailedresult"},
+    const std::pair<const char*, std::function<void()>> forms[] = {
+        {kPropertiesForm, [this, front] { open_section_properties(m_model, front()); }},
+        {kBucklingForm, [this, front] { open_buckling_input(*this, front()); }},
+        {kLefTableForm, [this, front] { open_lef_table(m_model.language, front()); }},
+        {kAboutForm, [this, front] { open_about(m_model.language, front()); }},
+        {"frmSetup", [this] { m_setup->open_setup(); }},
+        {"frmClass", [this] { m_classes->open_classes(); }},
+        {"frm_Kvelder_detailedresult", [detailed] { detailed->open_first_span(); }},
+        {"frm_B_grid_mom_Shear_disp_comb", [along] { along->open(); }},
+    };
+    // The box being typed in commits first; one that refuses keeps the focus
+    // and no form opens.
+    for (const auto& [name, open] : forms) {
+        register_form(QString::fromLatin1(name), [this, open = open] {
+            if (commit_focused_box()) {
+                open();
+            }
+        });
+    }
+    for (auto [button, name] : {std::pair{"Cmd_tverrsnitt", kPropertiesForm},
+                                {"Cmd_input_vipping", kBucklingForm},
+                                {"cmd_detres", "frm_Kvelder_detailedresult"},
                                 {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"}}) {
-        connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, form = form] {
-            // The click has left a box already; one that refused keeps the focus.
+        connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, name = name] {
+            // The click has left a box already: one that refused has said so.
             auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
             if (box == nullptr || !box->failed()) {
-                open_form(form);
+                open_form(QString::fromLatin1(name));
             }
         });
     }
@@ -242,11 +237,7 @@ void MainWindow::build_menu()
         QAction* a = menu->addAction(QString());
         a->setObjectName(name);
         a->setShortcut(keys);
-        if (action) {
-            connect(a, &QAction::triggered, this, action);
-        } else {
-            a->setEnabled(false); // comes with the report and the remaining dialogs
-        }
+        connect(a, &QAction::triggered, this, action);
         return a;
     };
     m_file_menu = menuBar()->addMenu(QString());
@@ -276,16 +267,12 @@ void MainWindow::build_menu()
     item(print, "mnumax2", [this] { print_report(true); });
     print->addSeparator();
     item(print, "mnupdf", [this] { save_report_pdf(); });
-    for (const auto& [name, open] :
-         {std::pair<const char*, std::function<void()>>{"mnusetup", [this] { m_setup->open_setup(); }},
-          {"mnuklasse", [this] { m_classes->open_classes(); }}}) {
+    for (const char* name : {"mnusetup", "mnuklasse"}) {
         QAction* a = menuBar()->addAction(QString());
         a->setObjectName(name);
-        connect(a, &QAction::triggered, this, [this, open = open] {
-            if (commit_focused_box()) {
-                open();
-            }
-        });
+        const QString form =
+            QString::fromLatin1(std::string_view(name) == "mnusetup" ? "frmSetup" : "frmClass");
+        connect(a, &QAction::triggered, this, [this, form] { open_form(form); });
     }
     QMenu* help = menuBar()->addMenu(QString());
     help->setObjectName("mnuHjelp");
