@@ -3,6 +3,7 @@
 #include "files/number_format.h"
 #include "files/text_number.h"
 #include "ui/edits.h"
+#include "ui/help_texts.h"
 
 namespace kvelder {
 namespace {
@@ -40,27 +41,29 @@ std::vector<Caption> properties_captions(const std::string& language)
 
 std::vector<Caption> buckling_captions(const std::string& language)
 {
-    return pick(language, {
-                              {kBucklingForm, "Parametre for lateral torsional buckling", "Vippeparametre"},
-                              {"Fra_vipping", "Effective length of beam (m) and kcrit",
-                               "Effektive vippelengde (m)og kcrit"},
-                              {"Lbl_felt_vipp", "Span", "Felt"},
-                              {"Lbl_l_stag", "l_stag", "l_stag"},
-                              {"Lbl_le_fak", "lef_factor", "lef_faktor"},
-                              {"Lbl_leff_head", "lef", "lef"},
-                              {"Lbl_crit_head", "kcrit", "kcrit"},
-                              {"Fra_angrepspunkt", "Location of load", "Angrepspunkt for last"},
-                              {"Opt_angrepspunkt_0", "Top of beam", "Top av bjelke"},
-                              {"Opt_angrepspunkt_1", "Bottom of beam", "Underkantav bjelke"},
-                              {"Lbl_lef_help_0", "lef_factor  =  lef / l,  Ref. EN-1995-1-1, table 6.1  ",
-                               "lef_factor  =  lef / l,  Ref. EN-1995-1-1, table 6.1  "},
-                              {"Lbl_lef_help_1", "Load at top of beam , lef = lef + 2 x h",
-                               "Load at top of beam , lef = lef + 2 x h"},
-                              {"Lbl_lef_help_2", "Load at bottom of beam , lef = lef - 0.5 x h",
-                               "Load at bottom of beam , lef = lef - 0.5 x h"},
-                              {"Cmd_lef", "Table lef / l", "Tabell lef / l"},
-                              {"cmdOK", "OK", "OK"},
-                          });
+    std::vector<Caption> captions = pick(
+        language,
+        {
+            {kBucklingForm, "Parametre for lateral torsional buckling", "Vippeparametre"},
+            {"Fra_vipping", "Effective length of beam (m) and kcrit", "Effektive vippelengde (m)og kcrit"},
+            {"Lbl_felt_vipp", "Span", "Felt"},
+            {"Lbl_l_stag", "l_stag", "l_stag"},
+            {"Lbl_le_fak", "lef_factor", "lef_faktor"},
+            {"Lbl_leff_head", "lef", "lef"},
+            {"Lbl_crit_head", "kcrit", "kcrit"},
+            {"Fra_angrepspunkt", "Location of load", "Angrepspunkt for last"},
+            {"Opt_angrepspunkt_0", "Top of beam", "Top av bjelke"},
+            {"Opt_angrepspunkt_1", "Bottom of beam", "Underkantav bjelke"},
+            {"Cmd_lef", "Table lef / l", "Tabell lef / l"},
+            {"cmdOK", "OK", "OK"},
+        });
+    // The factor and the two load positions of the explanation the support help gives too.
+    const std::vector<HelpLine> lines = effective_length_lines(language);
+    const std::size_t shown[] = {1, 3, 4};
+    for (std::size_t k = 0; k < std::size(shown); ++k) {
+        captions.push_back({"Lbl_lef_help_" + std::to_string(k), lines.at(shown[k]).text.at(0).text});
+    }
+    return captions;
 }
 
 std::vector<Caption> lef_table_captions(const std::string& language)
