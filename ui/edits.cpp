@@ -28,15 +28,13 @@ void reset_buckling_data(Model& m)
     }
 }
 
-// Braces beyond the span or a factor outside its limits cannot stand for the
-// span: they start again as after a reset.
-void renew_buckling_data(Model& m, int span)
+// A reset gives each span its length as the distance between braces; a span
+// that had no length yet gets it when its length comes, or when the check is
+// switched on. Braces the engineer set are kept.
+void brace_span_without_length(Model& m, int span)
 {
-    if (check_box(m, Box::LStag, m.l_stag(span), span)) {
+    if (!(m.l_stag(span) > 0.3F)) {
         m.l_stag(span) = m.ffl_s(span);
-    }
-    if (check_box(m, Box::LefFactor, m.lef_factor(span))) {
-        m.lef_factor(span) = 0.9F;
     }
 }
 
@@ -184,9 +182,7 @@ std::optional<SpanFailure> set_span_length(Model& m, int span, float length, Loa
     if (auto failure = check_spans(m)) {
         return failure;
     }
-    if (check_box(m, Box::LStag, m.l_stag(span), span)) {
-        m.l_stag(span) = length;
-    }
+    brace_span_without_length(m, span);
     ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::G));
     ClipLoadsToSpans(m, dialog_of(dialogs, LoadGroupId::Q1));
     read_all_rows(m, dialogs);
@@ -241,7 +237,7 @@ void set_buckling_check(Model& m, bool on)
     m.vipping_off = on ? kFalse : kTrue;
     if (on) {
         for (int i = 1; i <= m.nf; ++i) {
-            renew_buckling_data(m, i);
+            brace_span_without_length(m, i);
         }
     }
 }
@@ -251,8 +247,11 @@ std::optional<Message> set_l_stag(Model& m, int span, float l_stag)
     if (span < 1 || span > m.nf) {
         return std::nullopt; // no row of the dialog
     }
+    if (auto failure = check_box(m, Box::LStag, l_stag, span)) {
+        return failure;
+    }
     m.l_stag(span) = l_stag;
-    return check_box(m, Box::LStag, l_stag, span);
+    return std::nullopt;
 }
 
 std::optional<Message> set_lef_factor(Model& m, int span, float factor)
@@ -260,8 +259,11 @@ std::optional<Message> set_lef_factor(Model& m, int span, float factor)
     if (span < 1 || span > m.nf) {
         return std::nullopt;
     }
+    if (auto failure = check_box(m, Box::LefFactor, factor)) {
+        return failure;
+    }
     m.lef_factor(span) = factor;
-    return check_box(m, Box::LefFactor, factor);
+    return std::nullopt;
 }
 
 void choose_load_location(Model& m, int location)

@@ -94,8 +94,9 @@ void choose_comb_rule(Model& m, std::string_view rule);
 bool buckling_check_enabled(const Model& m);
 void set_buckling_check(Model& m, bool on);
 
-// Txt_l_stag, Txt_le_fak of span `span` (1 .. nf): stored as typed; the
-// message of one that fails.
+// Txt_l_stag, Txt_le_fak of span `span` (1 .. nf): the message of a value
+// outside its limits, which the beam never takes, so that no result is
+// calculated from it; a value that passes is stored.
 std::optional<Message> set_l_stag(Model& m, int span, float l_stag);
 std::optional<Message> set_lef_factor(Model& m, int span, float factor);
 // Opt_angrepspunkt: 0 the load on the top of the beam, 1 at the bottom.

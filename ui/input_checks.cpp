@@ -88,37 +88,11 @@ std::vector<Message> section_box_failures(const Model& m)
     return messages;
 }
 
-// The buckling boxes of every span while that check is on and every span has
-// a length to hold the braces.
-std::vector<Message> buckling_box_failures(const Model& m)
-{
-    std::vector<Message> messages;
-    if (m.vipping_off != 0) {
-        return messages;
-    }
-    for (int i = 1; i <= m.nf; ++i) {
-        if (!(m.ffl_s(i) > 0)) {
-            return {};
-        }
-    }
-    for (int i = 1; i <= m.nf; ++i) {
-        for (const auto& message :
-             {check_box(m, Box::LStag, m.l_stag(i), i), check_box(m, Box::LefFactor, m.lef_factor(i))}) {
-            if (message) {
-                messages.push_back(*message);
-            }
-        }
-    }
-    return messages;
-}
-
 } // namespace
 
 std::optional<Message> window_box_failure(const Model& m)
 {
     std::vector<Message> failures = section_box_failures(m);
-    const std::vector<Message> buckling = buckling_box_failures(m);
-    failures.insert(failures.end(), buckling.begin(), buckling.end());
     if (failures.empty()) {
         return std::nullopt;
     }
@@ -140,9 +114,11 @@ std::vector<Message> check_all_boxes(Model& m)
     const std::vector<Message> section = section_box_failures(m);
     messages.insert(messages.end(), section.begin(), section.end());
     add(check_box(m, Box::Ksys, m.ksys));
-    if (!is_true(m.err_spans)) {
-        const std::vector<Message> buckling = buckling_box_failures(m);
-        messages.insert(messages.end(), buckling.begin(), buckling.end());
+    if (m.vipping_off == 0 && !is_true(m.err_spans)) {
+        for (int i = 1; i <= m.nf; ++i) {
+            add(check_box(m, Box::LStag, m.l_stag(i), i));
+            add(check_box(m, Box::LefFactor, m.lef_factor(i)));
+        }
     }
     return messages;
 }

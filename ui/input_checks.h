@@ -39,11 +39,9 @@ std::optional<SpanFailure> check_spans(Model& m);
 // set err_supports and give the message; enough clear it.
 std::optional<Message> check_supports(Model& m);
 
-// The first failing value that a box of the main window or of its buckling
-// input holds for this beam: the sizes of the section form in use, for a
-// rectangle the bearing of every node, and while the buckling check is on the
-// braces and factor of every span. None when all pass; a save is refused and
-// the recalculation stops at its gate until then.
+// The first failing value that a box of the main window holds for this beam:
+// the sizes of the section form in use and, for a rectangle, the bearing of
+// every node. None when all pass; a save is refused until then.
 std::optional<Message> window_box_failure(const Model& m);
 
 // Every check that typing the whole beam into the window would run: spans,

@@ -127,10 +127,11 @@ BoxCommit commit_buckling_box(Model& m, Box box, int span, std::string_view text
     const float value = c.value.value_or(0.0F);
     std::optional<Message> failure =
         box == Box::LStag ? set_l_stag(m, span, value) : set_lef_factor(m, span, value);
-    // A text the conversion refuses stays, so that the engineer sees what was not taken.
-    std::string shown = c.value ? format_number(box == Box::LStag ? m.l_stag(span) : m.lef_factor(span),
-                                                "0.00", m.decimal_comma != 0)
-                                : std::string(text);
+    // A refused text stays, so that the engineer sees what was not taken.
+    std::string shown = failure || !c.value
+                            ? std::string(text)
+                            : format_number(box == Box::LStag ? m.l_stag(span) : m.lef_factor(span), "0.00",
+                                            m.decimal_comma != 0);
     return {std::move(shown), std::move(failure)};
 }
 

@@ -55,7 +55,8 @@ struct BucklingRow {
 std::array<BucklingRow, kMaxSpans> buckling_rows(const Model& m);
 
 // Leaving Txt_l_stag (Box::LStag) or Txt_le_fak (Box::LefFactor) of span
-// `span`: the text is converted and stored, shown again in "0.00" and checked.
+// `span`: the text is converted and checked; a value that passes is stored and
+// shown again in "0.00", a refused one leaves the beam as it was.
 BoxCommit commit_buckling_box(Model& m, Box box, int span, std::string_view text);
 
 } // namespace kvelder
