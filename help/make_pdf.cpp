@@ -6,6 +6,8 @@
 // Exit 0 when the PDF is written, 2 when the input cannot be read or the
 // output cannot be written; then no file is left behind.
 
+#include "drawing/headless_platform.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QFont>
@@ -23,7 +25,6 @@
 #include <QTextTable>
 
 #include <cstdio>
-#include <filesystem>
 
 namespace {
 
@@ -150,20 +151,9 @@ void write_pages(QTextDocument& doc, QPdfWriter& pdf, const QString& title)
 
 int main(int argc, char** argv)
 {
-    // A build step draws on no screen. Qt wants a private runtime folder and
-    // warns without one.
+    // A build step draws on no screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
-        std::error_code ec;
-        const std::filesystem::path runtime =
-            std::filesystem::temp_directory_path(ec) /
-            ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
-        std::filesystem::create_directory(runtime, ec);
-        std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
-        if (!ec) {
-            qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.string()));
-        }
-    }
+    kvelder::choose_headless_platform();
     const QGuiApplication app(argc, argv);
     const QStringList args = QGuiApplication::arguments();
     if (args.size() != 3) {

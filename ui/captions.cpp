@@ -211,6 +211,17 @@ std::vector<Caption> window_captions(const std::string& language, const std::str
     return captions;
 }
 
+std::vector<Caption> pick_captions(const std::string& language, std::span<const CaptionPair> pairs)
+{
+    const bool eng = language == "Eng";
+    std::vector<Caption> captions;
+    captions.reserve(pairs.size());
+    for (const CaptionPair& p : pairs) {
+        captions.push_back({p.control, eng ? p.eng : p.nor});
+    }
+    return captions;
+}
+
 std::array<std::string, 4> family_names(const std::string& language)
 {
     if (is_english(language)) {

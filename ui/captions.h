@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,21 @@ struct Caption {
 
     friend bool operator==(const Caption&, const Caption&) = default;
 };
+
+// A control's text in both languages, as a form's caption table holds it.
+struct CaptionPair {
+    const char* control;
+    const char* eng;
+    const char* nor;
+};
+
+// The texts of a table in a language: "Eng" English, any other Norwegian.
+std::vector<Caption> pick_captions(const std::string& language, std::span<const CaptionPair> pairs);
+inline std::vector<Caption> pick_captions(const std::string& language,
+                                          std::initializer_list<CaptionPair> pairs)
+{
+    return pick_captions(language, std::span(pairs.begin(), pairs.size()));
+}
 
 // The texts the window's controls carry before any language is applied: the symbols,
 // heads and buttons that read the same in both languages, and the few texts the

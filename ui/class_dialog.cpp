@@ -7,13 +7,7 @@
 namespace kvelder {
 namespace {
 
-struct Pair {
-    const char* control;
-    const char* eng;
-    const char* nor;
-};
-
-constexpr Pair kCaptions[] = {
+constexpr CaptionPair kCaptions[] = {
     {"frmClass", "Classes/factors", "Klasser /faktorer"},
     {"Fra_ksy", "Load sharing factor", "System styrke faktor"},
     {"Fra_lastvar", "Load-duration class", "Lastvarighets klasse"},
@@ -49,12 +43,7 @@ BoxCommit commit_ksys(Model& m, std::string_view text)
 
 std::vector<Caption> class_dialog_captions(const std::string& language)
 {
-    const bool eng = language == "Eng";
-    std::vector<Caption> captions;
-    for (const Pair& p : kCaptions) {
-        captions.push_back({p.control, eng ? p.eng : p.nor});
-    }
-    return captions;
+    return pick_captions(language, kCaptions);
 }
 
 } // namespace kvelder

@@ -6,42 +6,23 @@
 #include "ui/help_texts.h"
 
 namespace kvelder {
-namespace {
-
-struct Pair {
-    const char* control;
-    const char* eng;
-    const char* nor;
-};
-
-std::vector<Caption> pick(const std::string& language, std::initializer_list<Pair> pairs)
-{
-    const bool eng = language == "Eng";
-    std::vector<Caption> captions;
-    for (const Pair& p : pairs) {
-        captions.push_back({p.control, eng ? p.eng : p.nor});
-    }
-    return captions;
-}
-
-} // namespace
 
 std::vector<Caption> properties_captions(const std::string& language)
 {
-    return pick(language, {
-                              {kPropertiesForm, "Section properties", "Tverrsnittsverdier "},
-                              {"Fra_Iyy_Wyy", "(mm4), (mm3), (mm2)", "(mm4), (mm3), (mm2)"},
-                              {"Lbl_felt_prop", "Span", "Felt"},
-                              {"Lbl_iyy", "Iy-y", "Iy-y"},
-                              {"Lbl_wyy", "Wy-y", "Wy-y"},
-                              {"Lbl_azz", "Az-z", "Az-z"},
-                              {"cmdOK", "OK", "OK"},
-                          });
+    return pick_captions(language, {
+                                       {kPropertiesForm, "Section properties", "Tverrsnittsverdier "},
+                                       {"Fra_Iyy_Wyy", "(mm4), (mm3), (mm2)", "(mm4), (mm3), (mm2)"},
+                                       {"Lbl_felt_prop", "Span", "Felt"},
+                                       {"Lbl_iyy", "Iy-y", "Iy-y"},
+                                       {"Lbl_wyy", "Wy-y", "Wy-y"},
+                                       {"Lbl_azz", "Az-z", "Az-z"},
+                                       {"cmdOK", "OK", "OK"},
+                                   });
 }
 
 std::vector<Caption> buckling_captions(const std::string& language)
 {
-    std::vector<Caption> captions = pick(
+    std::vector<Caption> captions = pick_captions(
         language,
         {
             {kBucklingForm, "Parametre for lateral torsional buckling", "Vippeparametre"},
@@ -68,18 +49,18 @@ std::vector<Caption> buckling_captions(const std::string& language)
 
 std::vector<Caption> lef_table_captions(const std::string& language)
 {
-    return pick(language, {
-                              {kLefTableForm, "Effective length lef / l", "Effektiv lengde lef / l"},
-                              {"cmdOK", "OK", "OK"},
-                          });
+    return pick_captions(language, {
+                                       {kLefTableForm, "Effective length lef / l", "Effektiv lengde lef / l"},
+                                       {"cmdOK", "OK", "OK"},
+                                   });
 }
 
 std::vector<Caption> about_captions(const std::string& language)
 {
-    std::vector<Caption> captions = pick(language, {
-                                                       {kAboutForm, "About Kvelder", "Om Kvelder"},
-                                                       {"cmdOK", "OK", "OK"},
-                                                   });
+    std::vector<Caption> captions = pick_captions(language, {
+                                                                {kAboutForm, "About Kvelder", "Om Kvelder"},
+                                                                {"cmdOK", "OK", "OK"},
+                                                            });
     captions.push_back({"lblTitle", program_title()});
     captions.push_back({"lblDescription", program_line(language)});
     captions.push_back({"lblVersion", version_line()});

@@ -32,14 +32,8 @@ const FactorField& field_of(SetupFactor factor)
     return kFactorFields[static_cast<std::size_t>(factor)];
 }
 
-struct Pair {
-    const char* control;
-    const char* eng;
-    const char* nor;
-};
-
 // The texts stand as the program has always shown them, trailing blanks included.
-constexpr Pair kCaptions[] = {
+constexpr CaptionPair kCaptions[] = {
     {"frmSetup", "Setup", "Setup"},
     {"Fra_language", "Language", "Spr\u00e5k"},
     {"Fra_set_annex", "EN 1990-1-1 + NA  (Loadfactors)", "EN 1990-1-1 + NA  (Lastfaktorer)"},
@@ -187,12 +181,7 @@ SetupView setup_view(const Model& m)
 
 std::vector<Caption> setup_dialog_captions(const std::string& language)
 {
-    const bool eng = language == "Eng";
-    std::vector<Caption> captions;
-    for (const Pair& p : kCaptions) {
-        captions.push_back({p.control, eng ? p.eng : p.nor});
-    }
-    return captions;
+    return pick_captions(language, kCaptions);
 }
 
 std::optional<Message> save_setup(Model& m, const std::filesystem::path& folder)
