@@ -7,6 +7,18 @@
 #include <filesystem>
 
 namespace kvelder {
+namespace {
+
+QtMessageHandler g_qt_messages = nullptr;
+
+void pass_all_but_platform_notes(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support")) && g_qt_messages != nullptr) {
+        g_qt_messages(type, context, text);
+    }
+}
+
+} // namespace
 
 void choose_headless_platform()
 {
@@ -28,6 +40,13 @@ void choose_headless_platform()
         }
     }
 #endif
+}
+
+void without_platform_notes()
+{
+    if (g_qt_messages == nullptr) {
+        g_qt_messages = qInstallMessageHandler(pass_all_but_platform_notes);
+    }
 }
 
 } // namespace kvelder

@@ -6,4 +6,8 @@ namespace kvelder {
 // platform is there. Call before the application object is made.
 void choose_headless_platform();
 
+// Keeps back the offscreen platform's notes of every window feature it lacks;
+// every other message of Qt goes where it went before.
+void without_platform_notes();
+
 } // namespace kvelder

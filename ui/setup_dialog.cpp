@@ -167,7 +167,7 @@ int psi_position(const Model& m, PsiList list)
 SetupView setup_view(const Model& m)
 {
     SetupView view;
-    view.kfi = format_number(m.kfi, "0.00");
+    view.kfi = format_number(m.kfi, "0.00", m.decimal_comma != 0);
     if (m.annex == "Swe") {
         view.frame = ClassFrame::Sweden;
         view.kcr_check = true;

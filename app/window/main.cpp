@@ -123,6 +123,9 @@ int main(int argc, char** argv)
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Kvelder");
+    if (wants_screenshots(argc, argv)) {
+        kvelder::without_platform_notes();
+    }
     const std::optional<Arguments> args = parse(QApplication::arguments());
     if (!args) {
         std::cerr << "usage: kvelder [--screenshots DIR] [PROJECT]\n";
