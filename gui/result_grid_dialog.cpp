@@ -5,8 +5,10 @@
 #include "gui/workspace.h"
 #include "ui/result_grid.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTableView>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -48,7 +50,47 @@ ResultGridDialog::ResultGridDialog(Workspace& ws, QWidget* parent) : QDialog(par
     m_grid->verticalHeader()->setDefaultSectionSize(20);
     m_grid->setFocusPolicy(Qt::NoFocus);
     column->addWidget(m_grid, 1);
+
+    m_heads = new QTableView(m_grid);
+    m_heads->setObjectName("Grid_heads");
+    m_heads->setModel(m_grid->model());
+    m_heads->horizontalHeader()->hide();
+    m_heads->verticalHeader()->hide();
+    m_heads->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_heads->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_heads->setSelectionMode(QAbstractItemView::NoSelection);
+    m_heads->setFocusPolicy(Qt::NoFocus);
+    m_heads->setWordWrap(true);
+    m_heads->setFrameShape(QFrame::NoFrame);
+    m_heads->verticalHeader()->setMinimumSectionSize(4);
+    m_grid->viewport()->installEventFilter(this);
     resize(860, 600);
+}
+
+bool ResultGridDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_grid->viewport() && event->type() == QEvent::Resize) {
+        place_heads();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void ResultGridDialog::place_heads()
+{
+    int height = 0;
+    for (int r = 0; r < kGridHeadRows; ++r) {
+        m_heads->setRowHeight(r, m_grid->rowHeight(r));
+        height += m_grid->rowHeight(r);
+    }
+    for (int r = kGridHeadRows; r < m_grid->rowCount(); ++r) {
+        m_heads->setRowHidden(r, true);
+    }
+    for (int c = 0; c < kGridColumns; ++c) {
+        m_heads->setColumnWidth(c, m_grid->columnWidth(c));
+    }
+    const QRect area = m_grid->viewport()->geometry();
+    m_heads->setGeometry(area.x(), area.y(), area.width(), height);
+    m_heads->raise();
 }
 
 void ResultGridDialog::showEvent(QShowEvent* event)
@@ -71,10 +113,12 @@ void ResultGridDialog::fill()
             m_grid->item(r, c)->setBackground(head_face);
         }
     }
+    m_heads->clearSpans();
     for (const GridHead& head : grid.heads) {
         m_grid->item(head.row, head.column)->setText(qs(head.text));
         if (head.columns > 1) {
             m_grid->setSpan(head.row, head.column, 1, head.columns);
+            m_heads->setSpan(head.row, head.column, 1, head.columns);
         }
     }
     for (std::size_t k = 0; k < grid.rows.size(); ++k) {
@@ -96,6 +140,8 @@ void ResultGridDialog::fill()
     }
     m_grid->setRowHeight(kGridHeadRows - 1, 6);
     m_grid->setCurrentCell(-1, -1);
+    m_grid->scrollToTop();
+    place_heads();
 }
 
 } // namespace kvelder

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QTableView;
 class QTableWidget;
 
 namespace kvelder {
@@ -17,12 +18,16 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fill();
+    // The head rows stay in place over the grid while its values scroll.
+    void place_heads();
 
     Workspace& m_ws;
     QTableWidget* m_grid = nullptr;
+    QTableView* m_heads = nullptr; // a view of the grid's own head rows
 };
 
 } // namespace kvelder

@@ -1,11 +1,14 @@
 // The detailed results and the result grid as the engineer opens and drives them.
 
 #include "tests/gui/window_flow.h"
+
 #include "ui/result_grid.h"
+#include <QScrollBar>
 
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 
 namespace kvelder::test {
@@ -102,7 +105,18 @@ TEST_F(ResultFormsFlow, TheGridListsTheBeamFromTheLastRunEachTimeItOpens)
     EXPECT_EQ(grid->item(4, 6)->text(), QString::fromStdString(texts.rows[0].cells[6]));
     EXPECT_EQ(grid->item(4, 6)->background().color(), QColor(192, 192, 192));
     EXPECT_EQ(grid->item(5, 6)->text(), "");
+    // The heads stand still over the values as they scroll.
+    d->resize(d->width(), 300);
+    QApplication::processEvents();
+    const QRect heads(grid->viewport()->pos(),
+                      QSize(grid->viewport()->width(), grid->rowViewportPosition(kGridHeadRows)));
+    const QImage top = grid->grab(heads).toImage();
+    grid->scrollToBottom();
+    ASSERT_GT(grid->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(grid->grab(heads).toImage(), top);
     d->reject();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
 
     // A Norwegian project of three spans, at the next opening.
     auto three = three_spans();
