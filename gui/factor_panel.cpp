@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -56,7 +57,17 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
     psi_grid->addWidget(value("Lbl_psi0_1_2", psi), 0, 1);
     psi_grid->addWidget(named<QLabel>("Lbl_psi0_2_1", psi), 1, 0);
     psi_grid->addWidget(value("Lbl_psi0_2_2", psi), 1, 1);
-    column->addWidget(psi);
+    // The class of the annex and its factor, where the annex has classes.
+    m_safety = named<QGroupBox>("frmSafety", this);
+    auto* safety_row = frame_layout<QHBoxLayout>(m_safety);
+    safety_row->addWidget(value("Lbl_safe_fac", m_safety));
+    safety_row->addStretch();
+    safety_row->addWidget(value("Lbl_kfi_1", m_safety));
+    auto* psi_row = new QHBoxLayout;
+    psi_row->setSpacing(4);
+    psi_row->addWidget(psi, 1);
+    psi_row->addWidget(m_safety);
+    column->addLayout(psi_row);
 
     auto* strengths = named<QGroupBox>("Fra_spenning", this);
     auto* s_grid = frame_layout<QGridLayout>(strengths);
@@ -79,7 +90,11 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
 void FactorPanel::refresh()
 {
     const FactorLabels f = factor_labels(m_ws.model());
-    const std::array<std::pair<const char*, const std::string*>, 15> texts{{
+    m_safety->setVisible(!f.safety_frame.empty());
+    m_safety->setTitle(QString::fromStdString(f.safety_frame));
+    const std::array<std::pair<const char*, const std::string*>, 17> texts{{
+        {"Lbl_safe_fac", &f.safety_class},
+        {"Lbl_kfi_1", &f.kfi},
         {"Lbl_klima_2", &f.service_class},
         {"Lbl_ksy2", &f.ksys},
         {"Lbl_gamma2", &f.gamma_M},

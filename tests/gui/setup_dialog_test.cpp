@@ -42,11 +42,22 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     start(); // the Norwegian annex, a laminated beam: gamma_M 1.15
     EXPECT_EQ(text("Lbl_gamma2"), "1.15 ");
     const QString fmd = text("Lbl_fmd2");
+    auto* safety = get<QGroupBox>("frmSafety");
+    const auto kfi = [safety] { return safety->findChild<QLabel*>("Lbl_kfi_1")->text(); };
+    EXPECT_EQ(safety->title(), "Rel. class");
     QDialog* setup = open_by_menu("mnusetup", "frmSetup");
     EXPECT_TRUE(get("Fra_class_nor")->isVisible());
     EXPECT_FALSE(get("Fra_sik_class")->isVisible());
-
+    // The reliability class scales the variable loads at once, and the window shows it.
     int runs = window->runs();
+    click("Opt_class_nor_1");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text("Lbl_safe_fac"), "1");
+    EXPECT_EQ(kfi(), "Kfi = 0.90");
+    click("Opt_class_nor_2_4");
+    EXPECT_EQ(kfi(), "Kfi = 1.00");
+
+    runs = window->runs();
     choose("cmbCountry", Qt::Key_End); // "EC5 + EN 1990 recommended"
     EXPECT_EQ(get<QComboBox>("cmbCountry")->currentText(), "EC5 + EN 1990 recommended");
     EXPECT_FALSE(get("Fra_class_nor")->isVisible());
@@ -59,6 +70,7 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     EXPECT_EQ(text("Lbl_gamma2"), "1.25 ");
     EXPECT_NE(text("Lbl_fmd2"), fmd);
     EXPECT_TRUE(window->windowTitle().contains("EN 1990 recommended"));
+    EXPECT_FALSE(safety->isVisible()); // the recommended values know no classes
 
     // An edit recalculates at once; Norwegian turns the window and the dialog,
     // and the window's lists keep their choices.
