@@ -87,12 +87,12 @@ BucklingDialog::BucklingDialog(Workspace& ws, QWidget* parent) : QDialog(parent)
     // Enter in a box walks on and never reaches OK.
     ok->setDefault(true);
     connect(table, &QPushButton::clicked, this, [this] {
-        if (!refused_box_in_focus()) {
+        if (!focus_on_refused_box()) {
             open_lef_table(m_ws.model().language, this);
         }
     });
     connect(ok, &QPushButton::clicked, this, [this] {
-        if (!refused_box_in_focus()) {
+        if (!focus_on_refused_box()) {
             accept();
         }
     });
@@ -135,7 +135,7 @@ bool BucklingDialog::box_rule(InputBox& box, Box kind, int span)
 
 void BucklingDialog::choose_location(int location)
 {
-    if (m_ws.filling() || refused_box_in_focus()) {
+    if (m_ws.filling() || focus_on_refused_box()) {
         show_location();
         return;
     }
@@ -158,12 +158,6 @@ void BucklingDialog::show_location()
     QRadioButton* chosen = m_location[m_ws.model().load_location == 0 ? 0 : 1];
     const QSignalBlocker block(chosen);
     chosen->setChecked(true);
-}
-
-bool BucklingDialog::refused_box_in_focus() const
-{
-    auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
-    return box != nullptr && box->failed() && isAncestorOf(box);
 }
 
 void open_buckling_input(Workspace& ws, QWidget* parent)

@@ -30,8 +30,6 @@ private:
     void choose_location(int location);
     void show_results();
     void show_location();
-    // The box that has just refused its value keeps the focus and the dialog.
-    bool refused_box_in_focus() const;
 
     Workspace& m_ws;
     std::array<QLabel*, kMaxSpans> m_span{}, m_l_eff{}, m_k_crit{};

@@ -18,26 +18,12 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include <functional>
-
 namespace kvelder {
 namespace {
 
 const char* main_box_name(Box kind)
 {
     return kind == Box::Width ? "txt_b1" : kind == Box::Height ? "txt_h1" : "txt_d";
-}
-
-QImage drawn(const PictureBox& box, const std::function<void(PlotSurface&)>& plot)
-{
-    QImage image(box.size() * box.devicePixelRatio(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(box.devicePixelRatio());
-    image.fill(Qt::white);
-    {
-        PlotSurface surface(image);
-        plot(surface);
-    }
-    return image;
 }
 
 } // namespace
@@ -97,7 +83,11 @@ DetailedResultDialog::DetailedResultDialog(Workspace& ws, QWidget& main_sizes, Q
     auto* ok = named<QPushButton>("Cmd_ok", this);
     ok->setDefault(false);
     ok->setAutoDefault(false);
-    connect(ok, &QPushButton::clicked, this, &DetailedResultDialog::close_unless_refused);
+    connect(ok, &QPushButton::clicked, this, [this] {
+        if (!focus_on_refused_box()) {
+            accept();
+        }
+    });
     column->addWidget(ok);
 
     m_text = new PictureBox("Pic_detailed", this);
@@ -110,6 +100,7 @@ void DetailedResultDialog::open_first_span()
 {
     apply_captions(*this, detailed_result_captions(m_ws.model().language));
     m_span = 1;
+    m_taken = trial_sizes(m_ws.model());
     for (std::size_t k = 0; k < m_options.size(); ++k) {
         m_options[k]->setVisible(static_cast<int>(k) < m_ws.model().nf);
     }
@@ -154,15 +145,13 @@ void DetailedResultDialog::arrange()
 void DetailedResultDialog::draw()
 {
     const std::vector<TextLine> lines = Show_span_detail(m_ws.model(), m_span);
-    m_text->set_image(drawn(*m_text, [&lines](PlotSurface& s) { PlotTextLines(s, lines); }));
+    m_text->draw([&lines](PlotSurface& s) { PlotTextLines(s, lines); });
 }
 
 void DetailedResultDialog::draw_section()
 {
-    m_rect_picture->set_image(
-        drawn(*m_rect_picture, [](PlotSurface& s) { PlotSectionSketch(s, TrialSection::Rectangle); }));
-    m_tube_picture->set_image(
-        drawn(*m_tube_picture, [](PlotSurface& s) { PlotSectionSketch(s, TrialSection::Circle); }));
+    m_rect_picture->draw([](PlotSurface& s) { PlotSectionSketch(s, TrialSection::Rectangle); });
+    m_tube_picture->draw([](PlotSurface& s) { PlotSectionSketch(s, TrialSection::Circle); });
 }
 
 bool DetailedResultDialog::trial_rule(InputBox& box, Box kind)
@@ -182,18 +171,24 @@ bool DetailedResultDialog::trial_rule(InputBox& box, Box kind)
         return Workspace::BoxResult{qs(c.text), c.failure, nullptr};
     });
     if (taken) {
+        m_taken = trial_sizes(m_ws.model());
         draw();
     }
     return taken;
 }
 
-void DetailedResultDialog::close_unless_refused()
+void DetailedResultDialog::reject()
 {
-    // A box that has just refused its value keeps the focus and the window.
-    if (auto* box = qobject_cast<InputBox*>(focusWidget()); box != nullptr && box->failed()) {
-        return;
+    for (auto [box, kind] : {std::pair{m_b, Box::Width}, {m_h, Box::Height}, {m_d, Box::Diameter}}) {
+        if (box->failed()) {
+            const std::string text = restore_trial_size(m_ws.model(), kind, m_taken);
+            if (auto* main_box = m_main_sizes.findChild<InputBox*>(main_box_name(kind))) {
+                main_box->setText(qs(text));
+                main_box->set_failed(false);
+            }
+        }
     }
-    accept();
+    QDialog::reject();
 }
 
 } // namespace kvelder

@@ -2,6 +2,8 @@
 
 #include "ui/input_checks.h"
 
+#include "ui/detailed_result.h"
+
 #include <QDialog>
 
 #include <array>
@@ -29,13 +31,14 @@ public:
 
     // Opens, modal, on span 1 with the section controls of the beam.
     void open_first_span();
+    // Closing by Esc or the title bar gives a refused size up.
+    void reject() override;
 
 private:
     void arrange();
     void draw();
     void draw_section();
     bool trial_rule(InputBox& box, Box kind);
-    void close_unless_refused();
 
     Workspace& m_ws;
     QWidget& m_main_sizes;
@@ -45,6 +48,7 @@ private:
     InputBox* m_b = nullptr;
     InputBox* m_h = nullptr;
     InputBox* m_d = nullptr;
+    TrialSizes m_taken;
     QLabel* m_b_label = nullptr;
     QLabel* m_h_label = nullptr;
     QLabel* m_d_label = nullptr;

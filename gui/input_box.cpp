@@ -1,5 +1,6 @@
 #include "gui/input_box.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QTimer>
@@ -58,6 +59,12 @@ void InputBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+bool focus_on_refused_box()
+{
+    auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
+    return box != nullptr && box->failed();
 }
 
 } // namespace kvelder

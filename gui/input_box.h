@@ -35,4 +35,9 @@ private:
     bool m_failed = false;
 };
 
+// True while the box with the focus holds a value its rule refused. A click on
+// a button has taken the focus from it and run the rule already, which said
+// why; the button's command then does not run, and says nothing more.
+bool focus_on_refused_box();
+
 } // namespace kvelder

@@ -216,9 +216,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
                                 {"cmd_detres", "frm_Kvelder_detailedresult"},
                                 {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"}}) {
         connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, name = name] {
-            // The click has left a box already: one that refused has said so.
-            auto* box = qobject_cast<InputBox*>(QApplication::focusWidget());
-            if (box == nullptr || !box->failed()) {
+            if (!focus_on_refused_box()) {
                 open_form(QString::fromLatin1(name));
             }
         });
@@ -448,14 +446,14 @@ void MainWindow::fail_box(InputBox& box, const std::optional<Message>& message)
 
 void MainWindow::show_load_dialog(LoadGroupId id)
 {
-    if (commit_focused_box()) {
+    if (!focus_on_refused_box() && commit_focused_box()) {
         m_load_dialogs[static_cast<std::size_t>(id)]->open_rows();
     }
 }
 
 void MainWindow::show_help(HelpForm form)
 {
-    if (commit_focused_box()) {
+    if (!focus_on_refused_box() && commit_focused_box()) {
         QWidget* front = QApplication::activeModalWidget();
         open_help(form, m_model, front != nullptr ? front : this);
     }

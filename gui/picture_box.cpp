@@ -17,6 +17,18 @@ void PictureBox::set_image(QImage image)
     update();
 }
 
+void PictureBox::draw(const std::function<void(PlotSurface&)>& plot)
+{
+    QImage image(size() * devicePixelRatio(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatio());
+    image.fill(Qt::white);
+    {
+        PlotSurface surface(image);
+        plot(surface);
+    }
+    set_image(std::move(image));
+}
+
 void PictureBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

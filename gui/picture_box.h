@@ -1,7 +1,11 @@
 #pragma once
 
+#include "drawing/plot_surface.h"
+
 #include <QImage>
 #include <QWidget>
+
+#include <functional>
 
 namespace kvelder {
 
@@ -12,6 +16,8 @@ class PictureBox : public QWidget {
 public:
     explicit PictureBox(const QString& name, QWidget* parent = nullptr);
     void set_image(QImage image);
+    // Shows what `plot` draws on a white image of the box's size.
+    void draw(const std::function<void(PlotSurface&)>& plot);
     const QImage& image() const { return m_image; }
 
 signals:

@@ -42,16 +42,6 @@ void show_form(QDialog* dialog, const std::vector<Caption>& captions)
     dialog->open();
 }
 
-QImage table_image(const QSize& size, qreal ratio, const std::string& language)
-{
-    QImage image(size * ratio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
-    PlotSurface surface(image);
-    PlotLefTable(surface, language);
-    return image;
-}
-
 } // namespace
 
 void open_section_properties(const Model& m, QWidget* parent)
@@ -95,7 +85,7 @@ void open_lef_table(const std::string& language, QWidget* parent)
     for (const char* lang : {"Eng", "Nor"}) {
         auto* picture = new PictureBox(lang == std::string("Eng") ? "Pic_le_eng" : "Pic_le_nor", dialog);
         picture->setFixedSize(640, 360);
-        picture->set_image(table_image(picture->size(), dialog->devicePixelRatio(), lang));
+        picture->draw([lang](PlotSurface& surface) { PlotLefTable(surface, lang); });
         picture->setVisible((language == "Eng") == (lang == std::string("Eng")));
         column->addWidget(picture);
     }

@@ -206,6 +206,7 @@ void SetupDialog::open_setup()
     fill_boxes();
     show_choices();
     m_pending = false;
+    m_opened_row = m_ws.model().setup.setup_row;
     if (!isVisible()) {
         open();
     }
@@ -373,6 +374,9 @@ void SetupDialog::reject()
         if (m_factors[k]->failed()) {
             set_setup_factor(m_ws.model(), kSetupFactors[k], m_taken[k]);
         }
+    }
+    if (give_up_country(m_ws.model(), m_opened_row)) {
+        m_pending = true;
     }
     QDialog::reject();
     if (m_pending) {

@@ -29,8 +29,8 @@ public:
 
     // Opens, modal, on the setup in force.
     void open_setup();
-    // Closing without OK: a box that holds a refused value gives it up, and a
-    // change that waits for a recalculation gets it.
+    // Closing without OK: a box that holds a refused value gives it up, so
+    // does a new country, and a change that waits for a recalculation gets it.
     void reject() override;
 
 private:
@@ -55,6 +55,7 @@ private:
     std::filesystem::path m_folder;
     bool m_filling = false;
     bool m_pending = false; // a change the last recalculation has not seen
+    int m_opened_row = 0;   // the setup row in force when the dialog opened
     QComboBox* m_country = nullptr;
     std::array<QComboBox*, 4> m_psi{};
     QGroupBox* m_sweden = nullptr;

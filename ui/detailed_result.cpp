@@ -3,6 +3,7 @@
 #include "files/code_page.h"
 #include "files/number_format.h"
 #include "ui/box_texts.h"
+#include "ui/edits.h"
 
 #include <cstddef>
 
@@ -119,9 +120,24 @@ DetailSection detail_section(const Model& m)
 TrialCommit commit_trial_size(Model& m, Box box, std::string_view text)
 {
     BoxCommit c = commit_box(m, box, text);
-    const bool taken = c.text == box_text(m, box);
-    std::string shown = taken && box == Box::Diameter ? number(m, m.section_d, "0") : c.text;
+    // The window words its refusals of b and h a little apart from the main window's boxes.
+    if (c.failure && box != Box::Diameter) {
+        const bool eng = m.language == "Eng";
+        c.failure->text = box == Box::Width ? (eng ? " b =< 0 " : "b =< 0 ") : (eng ? " h =< 0 " : "h =< 0 ");
+    }
+    std::string shown = !c.failure && box == Box::Diameter ? number(m, m.section_d, "0") : c.text;
     return {std::move(shown), std::move(c.text), std::move(c.failure)};
+}
+
+TrialSizes trial_sizes(const Model& m)
+{
+    return {m.section_b, m.section_h, m.section_d};
+}
+
+std::string restore_trial_size(Model& m, Box box, const TrialSizes& taken)
+{
+    set_section_size(m, box, box == Box::Width ? taken.b : box == Box::Height ? taken.h : taken.d);
+    return box_text(m, box);
 }
 
 std::vector<Caption> detailed_result_captions(const std::string& language)

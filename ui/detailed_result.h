@@ -68,6 +68,15 @@ struct TrialCommit {
 };
 TrialCommit commit_trial_size(Model& m, Box box, std::string_view text);
 
+// The sizes the trial boxes opened on or last took. Closing the window on a
+// refused size puts that size back, so that the beam is the one its results
+// were calculated for; the text the main window's box then shows.
+struct TrialSizes {
+    float b = 0, h = 0, d = 0;
+};
+TrialSizes trial_sizes(const Model& m);
+std::string restore_trial_size(Model& m, Box box, const TrialSizes& taken);
+
 std::vector<Caption> detailed_result_captions(const std::string& language);
 
 } // namespace kvelder

@@ -63,8 +63,9 @@ std::optional<Message> set_bearing(Model& m, int node, Box box, float value);
 std::optional<SpanFailure> choose_span_count(Model& m, int nf, LoadDialogs& dialogs);
 
 // The length of span `span` (1-based). When every span has a length, the rows
-// of G and Q1 are fitted to the new lengths and all rows are read again.
-// Braces that the new length no longer holds move to the span's ends.
+// of G and Q1 are fitted to the new lengths and all rows are read again. A
+// span that had no length when its braces were reset gets them at its length;
+// braces set before stay, also beyond a span made shorter.
 std::optional<SpanFailure> set_span_length(Model& m, int span, float length, LoadDialogs& dialogs);
 
 enum class BeamEnd { Left, Right };
@@ -88,9 +89,8 @@ void choose_comb_rule(Model& m, std::string_view rule);
 
 // --- Lateral buckling (Check_vipping) ------------------------------------------
 
-// A circle has no buckling check. Switched on, a span whose braces or factor
-// would fail their check (a span added since, or a project's stale values)
-// starts again from its length and 0.9.
+// A circle has no buckling check. Switched on, a span whose braces were reset
+// while it had no length gets them at its length.
 bool buckling_check_enabled(const Model& m);
 void set_buckling_check(Model& m, bool on);
 

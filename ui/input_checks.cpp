@@ -114,10 +114,26 @@ std::vector<Message> check_all_boxes(Model& m)
     const std::vector<Message> section = section_box_failures(m);
     messages.insert(messages.end(), section.begin(), section.end());
     add(check_box(m, Box::Ksys, m.ksys));
-    if (m.vipping_off == 0 && !is_true(m.err_spans)) {
-        for (int i = 1; i <= m.nf; ++i) {
-            add(check_box(m, Box::LStag, m.l_stag(i), i));
-            add(check_box(m, Box::LefFactor, m.lef_factor(i)));
+    return messages;
+}
+
+std::vector<Message> check_buckling_boxes(const Model& m)
+{
+    std::vector<Message> messages;
+    if (m.vipping_off != 0) {
+        return messages;
+    }
+    for (int i = 1; i <= m.nf; ++i) {
+        if (!(m.ffl_s(i) > 0)) {
+            return messages; // the span check has said so
+        }
+    }
+    for (int i = 1; i <= m.nf; ++i) {
+        for (const auto& failure :
+             {check_box(m, Box::LStag, m.l_stag(i), i), check_box(m, Box::LefFactor, m.lef_factor(i))}) {
+            if (failure) {
+                messages.push_back(*failure);
+            }
         }
     }
     return messages;

@@ -42,7 +42,7 @@ std::vector<GridHead> heads(bool eng)
 ResultGrid result_grid(const Model& m)
 {
     ResultGrid grid{heads(m.language == "Eng"), {}};
-    const std::vector<DetailPoint> points = detail_points(m);
+    const std::vector<DetailPoint> points = coarse_points(m);
     for (std::size_t k = 0; k < points.size(); ++k) {
         const DetailPoint& p = points[k];
         const int i = p.span, j = p.fine;

@@ -10,7 +10,7 @@
 namespace kvelder {
 
 // The texts of the grid of results along the beam (frm_B_grid_mom_Shear_disp_comb):
-// four rows of heads, then one row for each place of detail_points.
+// four rows of heads, then one row for each point of the coarse grid.
 
 constexpr int kGridColumns = 13;
 constexpr int kGridHeadRows = 4;

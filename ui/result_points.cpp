@@ -24,7 +24,7 @@ int fine_point(const Model& m, int span, float x)
 
 } // namespace
 
-std::vector<DetailPoint> detail_points(const Model& m)
+std::vector<DetailPoint> coarse_points(const Model& m)
 {
     std::vector<DetailPoint> points;
     for (int i = 1; i <= m.nf; ++i) {
@@ -33,13 +33,20 @@ std::vector<DetailPoint> detail_points(const Model& m)
             xs.push_back(m.xl10_s(i, j));
         }
         std::sort(xs.begin(), xs.end());
-        for (std::size_t k = 0; k < xs.size(); ++k) {
-            if (k > 0 && xs[k] - points.back().x <= kSamePlace) {
-                continue;
-            }
-            points.push_back({i, xs[k], fine_point(m, i, xs[k])});
+        for (const float x : xs) {
+            points.push_back({i, x, fine_point(m, i, x)});
         }
     }
+    return points;
+}
+
+std::vector<DetailPoint> detail_points(const Model& m)
+{
+    std::vector<DetailPoint> points = coarse_points(m);
+    const auto same_place = [](const DetailPoint& a, const DetailPoint& b) {
+        return a.span == b.span && b.x - a.x <= kSamePlace;
+    };
+    points.erase(std::unique(points.begin(), points.end(), same_place), points.end());
     return points;
 }
 

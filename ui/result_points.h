@@ -17,8 +17,12 @@ struct DetailPoint {
     friend bool operator==(const DetailPoint&, const DetailPoint&) = default;
 };
 
-// The coarse points of every span left to right, one for each place (points
-// within 0.1 mm are one). The report's tables and the result grid list these.
+// Every point of the coarse grid of every span, left to right: the rows of
+// the result grid.
+std::vector<DetailPoint> coarse_points(const Model& m);
+
+// The same, one for each place (points within 0.1 mm are one): the rows of
+// the report's tables.
 std::vector<DetailPoint> detail_points(const Model& m);
 
 } // namespace kvelder

@@ -1,5 +1,6 @@
 #include "ui/setup_dialog.h"
 
+#include "design/factors.h"
 #include "files/data_files.h"
 #include "files/number_format.h"
 #include "files/setup_file.h"
@@ -134,6 +135,15 @@ void change_country(Model& m, int row)
     choose_annex_row(m, row);
 }
 
+bool give_up_country(Model& m, int opened_row)
+{
+    if (m.setup.setup_row == opened_row) {
+        return false;
+    }
+    change_country(m, opened_row);
+    return true;
+}
+
 std::vector<std::string> psi_items(PsiList list)
 {
     const int first = list == PsiList::Psi0_Q1 || list == PsiList::Psi0_Q2 ? 2 : 0;
@@ -167,7 +177,8 @@ int psi_position(const Model& m, PsiList list)
 SetupView setup_view(const Model& m)
 {
     SetupView view;
-    view.kfi = format_number(m.kfi, "0.00", m.decimal_comma != 0);
+    // A new annex's class has its factor before the next run sets it.
+    view.kfi = format_number(kfi_of(m.annex, m.safety_class).value_or(m.kfi), "0.00", m.decimal_comma != 0);
     if (m.annex == "Swe") {
         view.frame = ClassFrame::Sweden;
         view.kcr_check = true;

@@ -67,6 +67,10 @@ std::vector<std::string> country_items(const FileDatabase& db);
 // caller recalculates when the dialog closes.
 void change_country(Model& m, int row);
 
+// Closing the dialog other than by OK: a country chosen in it is given up for
+// the row it opened on. True when the beam changed and wants a recalculation.
+bool give_up_country(Model& m, int opened_row);
+
 // The texts of a psi list, "0.2" .. "1.0" or "0.0" .. "1.0", and the position
 // the beam holds (-1 when the list has none such).
 std::vector<std::string> psi_items(PsiList list);

@@ -97,7 +97,8 @@ void start(Model& m, const Options& o, std::ostream& err)
 // The beam ready for its recalculation: start-up, the input, and the messages
 // of every check that typing it into the window would run. A project's loads
 // are the texts of its load dialogs, as the window reads them; a description's
-// rows are the tables as given.
+// rows are the tables as given. A project's braces are the window's, which
+// keeps them when a span is made shorter; a description's are typed.
 struct Prepared {
     std::vector<Message> checks;
     std::optional<LoadDialogs> dialogs;
@@ -107,12 +108,17 @@ Prepared prepare(Model& m, const Options& o, std::ostream& err)
 {
     start(m, o, err);
     Prepared p;
-    if (o.input && is_project(*o.input)) {
+    const bool project = o.input && is_project(*o.input);
+    if (project) {
         read_project(m, *o.input, p.dialogs.emplace());
     } else if (o.input) {
         read_description(m, *o.input);
     }
     p.checks = check_all_boxes(m);
+    if (!project) {
+        const std::vector<Message> buckling = check_buckling_boxes(m);
+        p.checks.insert(p.checks.end(), buckling.begin(), buckling.end());
+    }
     return p;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/cli/beam_description.h"
 #include "app/cli/commands.h"
+#include "files/project_file.h"
 #include "tests/support/beams.h"
 
 #include <QCryptographicHash>
@@ -87,6 +88,16 @@ TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
     r = run({"calc", description("ksys.json", R"({"ksys": 1.3})")});
     EXPECT_EQ(r.exit, 1);
     EXPECT_NE(r.err.find(" 1 <= ksys <= 1.2"), std::string::npos);
+
+    // Braces beyond their span are refused as typed; a project keeps them from
+    // a span made shorter, and calculates with them as the window does.
+    r = run({"calc", description("braces.json", R"({"vipping_off": false, "l_stag": [6.0, 5.0]})")});
+    EXPECT_EQ(r.exit, 1);
+    auto kept = example_beam();
+    kept->vipping_off = kFalse;
+    kept->l_stag(1) = 6.0F;
+    ASSERT_FALSE(WriteProject(*kept, scratch("braces.kvel")));
+    EXPECT_EQ(run({"calc", scratch("braces.kvel")}).exit, 0);
 
     // A check without a message in Norwegian still fails, and says which row;
     // Q2, the last group, is checked too.

@@ -130,12 +130,17 @@ TEST_F(SetupDialogFlow, AFactorOfPointOneHoldsTheDialogAndTheTitleBarLeavesAWork
     EXPECT_FALSE(green("Txt_kcr_lam"));
     EXPECT_EQ(model->kcr_lam, 0.11F);
 
-    // The title bar closes on a refused value, which gives way to the last taken.
+    // The title bar closes on a refused value, which gives way to the last
+    // taken, and on a new country, which gives way to the one in force.
     prompter.messages.clear();
+    const std::string annex = model->annex;
+    choose("cmbCountry", Qt::Key_End);
+    EXPECT_NE(model->annex, annex);
     EXPECT_EQ(type("Txt_kcr_lam", "0"), 0);
     EXPECT_EQ(prompter.messages.size(), 1);
     setup->close();
     EXPECT_FALSE(setup->isVisible());
+    EXPECT_EQ(model->annex, annex);
     EXPECT_EQ(model->kcr_lam, 0.11F);
     EXPECT_EQ(model->loading_flag, kFalse);
     window->activateWindow();

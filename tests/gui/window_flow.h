@@ -158,9 +158,14 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
 
+    // A control of the window itself before one of its forms: the detailed
+    // results have their txt_b1 and txt_h1 too.
     template <typename W = QWidget> W* get(const char* name) const
     {
-        W* w = window->findChild<W*>(name);
+        W* w = window->centralWidget()->findChild<W*>(name);
+        if (w == nullptr) {
+            w = window->findChild<W*>(name);
+        }
         EXPECT_NE(w, nullptr) << name;
         return w;
     }

@@ -27,7 +27,7 @@ TEST(BucklingData, ASpanWithoutLengthGetsItsBracesWithItAndRefusedValuesNeverRea
     // Braces the engineer set stay, also beyond a span made shorter.
     set_span_length(*m, 1, 2.0F, d);
     EXPECT_EQ(m->l_stag(1), 2.5F);
-    EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
 
     // Braces reset while a span had no length come with the check.
     set_buckling_check(*m, false);

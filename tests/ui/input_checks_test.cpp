@@ -69,10 +69,13 @@ TEST(AllBoxes, CheckOnlyTheBoxesTheBeamShows)
     m->section_b = 0;
     m->lef_factor(1) = 5; // the buckling boxes are hidden while the check is off
     EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
     m->section_form = "Tube";
     EXPECT_TRUE(check_all_boxes(*m).empty());
     m->vipping_off = kFalse;
-    EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
+    m->ffl_s(2) = 0; // the span check comes first
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
 }
 
 } // namespace

@@ -34,6 +34,7 @@ TEST(SetupDialogRules, EachAnnexShowsItsClassesAndACountryChangeKeepsTheRowLeft)
     EXPECT_EQ(sweden.frame, ClassFrame::Sweden);
     EXPECT_TRUE(sweden.kcr_check);
     EXPECT_EQ(sweden.sweden_option, 2);
+    EXPECT_EQ(sweden.kfi, "0.91"); // Sweden's class 2, not Norway's class 1 still in force
     EXPECT_EQ(m->language, "Nor");
     change_country(*m, 0);
     EXPECT_EQ(m->gamma_kerto, 0.111F);
