@@ -321,7 +321,8 @@ void MainWindow::recalculate()
     }
     ++m_runs;
     m_running = false;
-    m_results->set_checks_run(past_gate);
+    // A failing load row leaves results of the rows before it only, as the report knows.
+    m_results->set_checks_run(past_gate && !is_true(m_model.err_load_item));
     refresh();
     // The failing load row's dialog and the messages of the run come now that
     // it is over, so that nothing modal opens inside it.

@@ -150,12 +150,14 @@ TEST_F(LoadDialogFlow, ARowThatFailsInARecalculationOpensItsDialogOnceOnItsBox)
     EXPECT_EQ(prompter.messages, QStringList{"c > lenght of span"});
     EXPECT_TRUE(green("TxtcN_2_0"));
     EXPECT_TRUE(focus_in_dialog(q2, "TxtcN_2_0"));
+    EXPECT_FALSE(get("cmd_detres")->isEnabled()); // no results of the whole beam to show
 
     type("TxtcN_2_0", "3");
     QTest::mouseClick(q2->findChild<QPushButton*>("Cmdok_n"), Qt::LeftButton);
     EXPECT_FALSE(q2->isVisible());
     EXPECT_EQ(model->Q2.pt_a(1), 3.0F);
     EXPECT_EQ(prompter.messages.size(), 1);
+    EXPECT_TRUE(get("cmd_detres")->isEnabled());
 }
 
 TEST_F(LoadDialogFlow, EveryBoxShowsWhatItTookOrSaysWhyAndClosingKeepsTheBeam)
