@@ -3,11 +3,10 @@
 
 #include "tests/support/beams.h"
 
+#include <QProcess>
+#include <QStringList>
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,25 +24,22 @@ struct Output {
     std::string out;
 };
 
-Output run(const std::string& command)
+// Runs a program with its arguments as they stand, no shell between.
+Output run(const fs::path& program, const QStringList& arguments)
 {
+    QProcess process;
+    process.start(QString::fromStdString(program.string()), arguments);
     Output r;
-    FILE* pipe = popen((command + " 2>/dev/null").c_str(), "r");
-    if (pipe == nullptr) {
-        return r;
+    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit) {
+        r.code = process.exitCode();
+        r.out = process.readAllStandardOutput().toStdString();
     }
-    char buffer[4096];
-    for (std::size_t n; (n = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) {
-        r.out.append(buffer, n);
-    }
-    const int status = pclose(pipe);
-    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return r;
 }
 
-std::string quoted(const fs::path& path)
+QString arg(const fs::path& path)
 {
-    return "'" + path.string() + "'";
+    return QString::fromStdString(path.string());
 }
 
 std::string collapsed(const std::string& text)
@@ -75,7 +71,7 @@ TEST(HelpDocuments, EveryHeadingOfTheMarkdownIsTextInTheBuiltPdf)
          {std::pair{"manual.md", "Kvelder manual.pdf"}, {"update.md", "Kvelder Update information.pdf"}}) {
         const fs::path built = fs::path(KVELDER_HELP_DIR) / pdf;
         ASSERT_TRUE(fs::is_regular_file(built)) << built;
-        const Output text = run("pdftotext -enc UTF-8 " + quoted(built) + " -");
+        const Output text = run("pdftotext", {"-enc", "UTF-8", arg(built), "-"});
         ASSERT_EQ(text.code, 0) << built;
         const std::vector<std::string> wanted = headings(sources / source);
         EXPECT_GE(wanted.size(), 3U) << source;
@@ -92,15 +88,15 @@ TEST(HelpDocuments, TheToolRefusesWhatItCannotReadOrWriteAndLeavesTheOldFile)
     fs::create_directories(folder);
     const fs::path old_pdf = folder / "old.pdf";
     std::ofstream(old_pdf) << "old";
-    const std::string tool = quoted(KVELDER_MAKE_PDF);
+    const fs::path tool = KVELDER_MAKE_PDF;
 
-    EXPECT_EQ(run(tool + " " + quoted(folder / "missing.md") + " " + quoted(old_pdf)).code, 2);
+    EXPECT_EQ(run(tool, {arg(folder / "missing.md"), arg(old_pdf)}).code, 2);
     std::ifstream in(old_pdf);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "old");
 
     const fs::path manual = fs::path(KVELDER_HELP_SOURCES) / "manual.md";
-    EXPECT_EQ(run(tool + " " + quoted(manual) + " " + quoted(folder / "no folder" / "out.pdf")).code, 2);
-    EXPECT_EQ(run(tool + " " + quoted(manual)).code, 2);
+    EXPECT_EQ(run(tool, {arg(manual), arg(folder / "no folder" / "out.pdf")}).code, 2);
+    EXPECT_EQ(run(tool, {arg(manual)}).code, 2);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);
 }
 
