@@ -67,33 +67,21 @@ ShearMoment point_load_forces(float L, float x, float P, float a)
     return {f32(-static_cast<double>(P) * a / Ld + R), f32(static_cast<double>(P) * a / Ld * (Ld - x) + T)};
 }
 
-ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2)
+LineLoadForces::LineLoadForces(float L, float a, float b, float q1, float q2)
+    : m_L(L), m_a(a), m_b(b), m_q1(q1), m_q2(q2), m_w(f32(m_b - m_a))
 {
-    const double Ld = L;
-    const double ad = a;
-    const double bd = b;
-    const float w = f32(bd - ad);
+    const double Ld = m_L;
+    const double ad = m_a;
+    const double bd = m_b;
+    const float w = m_w;
 
-    // Reactions and moment diagram of the load on a simple beam.
-    const float RA = f32(((3 * Ld - 2 * ad - bd) * q1 + (3 * Ld - 2 * bd - ad) * q2) * w / (6 * Ld));
-    const float RB = f32(((2 * ad + bd) * q1 + (2 * bd + ad) * q2) * w / (6 * Ld));
+    // Reactions of the load on a simple beam.
+    m_RA = f32(((3 * Ld - 2 * ad - bd) * q1 + (3 * Ld - 2 * bd - ad) * q2) * w / (6 * Ld));
+    m_RB = f32(((2 * ad + bd) * q1 + (2 * bd + ad) * q2) * w / (6 * Ld));
+    const float RA = m_RA;
+    const float RB = m_RB;
 
-    float M0 = 0;
-    float V0 = 0;
-    if (x <= a) {
-        M0 = f32(static_cast<double>(RA) * x);
-        V0 = RA;
-    } else if (x < b) {
-        const double u = static_cast<double>(x) - ad;
-        const double lever = 3 * bd - 2 * ad - x;
-        M0 = f32(static_cast<double>(RA) * x - (q1 * lever * u * u + q2 * u * u * u) / (6.0 * w));
-        V0 = f32(RA - (2 * q1 * lever * u - (static_cast<double>(q1) - 3.0 * q2) * u * u) / (6.0 * w));
-    } else {
-        M0 = f32(static_cast<double>(RB) * (Ld - x));
-        V0 = -RB;
-    }
-
-    // Area and first moment about the left end of that diagram, in closed form.
+    // Area and first moment about the left end of its moment diagram, in closed form.
     const double w3 = static_cast<double>(w) * w * w;
     const float A = f32(RA * bd * bd / 2 - w3 * (3.0 * q1 + q2) / 24 + RB * (Ld - bd) * (Ld - bd) / 2);
     const float S =
@@ -102,19 +90,47 @@ ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float
 
     // End moments of the held member by the moment-area rule. A diagram without
     // area has no centroid; the same rule then reads without the division.
-    float mL = 0;
-    float mR = 0;
     if (A != 0.0F) {
         const float xbar = f32(static_cast<double>(S) / A);
-        mL = f32(2 * (2 * Ld - 3.0 * xbar) * A / (Ld * Ld));
-        mR = f32(2 * (3.0 * xbar - Ld) * A / (Ld * Ld));
+        m_mL = f32(2 * (2 * Ld - 3.0 * xbar) * A / (Ld * Ld));
+        m_mR = f32(2 * (3.0 * xbar - Ld) * A / (Ld * Ld));
     } else {
-        mL = f32((4 * Ld * A - 6.0 * S) / (Ld * Ld));
-        mR = f32((6.0 * S - 2 * Ld * A) / (Ld * Ld));
+        m_mL = f32((4 * Ld * A - 6.0 * S) / (Ld * Ld));
+        m_mR = f32((6.0 * S - 2 * Ld * A) / (Ld * Ld));
     }
+}
 
-    return {f32(static_cast<double>(V0) + (static_cast<double>(mL) - mR) / Ld),
-            f32(M0 - (mL + (static_cast<double>(mR) - mL) * x / Ld))};
+ShearMoment LineLoadForces::at(float x) const
+{
+    const double Ld = m_L;
+    const double ad = m_a;
+    const double bd = m_b;
+    const float q1 = m_q1;
+    const float q2 = m_q2;
+    const float w = m_w;
+
+    // The moment diagram of the load on a simple beam.
+    float M0 = 0;
+    float V0 = 0;
+    if (x <= m_a) {
+        M0 = f32(static_cast<double>(m_RA) * x);
+        V0 = m_RA;
+    } else if (x < m_b) {
+        const double u = static_cast<double>(x) - ad;
+        const double lever = 3 * bd - 2 * ad - x;
+        M0 = f32(static_cast<double>(m_RA) * x - (q1 * lever * u * u + q2 * u * u * u) / (6.0 * w));
+        V0 = f32(m_RA - (2 * q1 * lever * u - (static_cast<double>(q1) - 3.0 * q2) * u * u) / (6.0 * w));
+    } else {
+        M0 = f32(static_cast<double>(m_RB) * (Ld - x));
+        V0 = -m_RB;
+    }
+    return {f32(static_cast<double>(V0) + (static_cast<double>(m_mL) - m_mR) / Ld),
+            f32(M0 - (m_mL + (static_cast<double>(m_mR) - m_mL) * x / Ld))};
+}
+
+ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2)
+{
+    return LineLoadForces(L, a, b, q1, q2).at(x);
 }
 
 ShearMoment moment_load_forces(float L, float x, float M, float a)
@@ -146,18 +162,40 @@ double uniform_load_deflection(float L, float x, float q)
     return q * Ld * Ld * x * x * r * r / 24;
 }
 
-double line_load_deflection(float L, float x, float a, float b, float q1, float q2)
+LineLoadDeflection::LineLoadDeflection(float L, float a, float b, float q1, float q2) : m_L(L)
 {
-    constexpr int kStrips = 20;
     const double dx = (static_cast<double>(b) - a) / kStrips;
     const double dq = (static_cast<double>(q2) - q1) / kStrips;
-    double sum = 0;
     for (int k = 1; k <= kStrips; ++k) {
+        Strip& s = m_strips[k - 1];
         const float P = f32(dx * (q1 + (k - 0.5) * dq));
-        const float at = f32(a + dx / 2 + (k - 1) * dx);
-        sum += point_deflection_anywhere(L, x, P, at);
+        s.at = f32(a + dx / 2 + (k - 1) * dx);
+        // A strip of a line load without width carries nothing.
+        s.empty = P == 0.0F;
+        const auto side = [this, P](double c) {
+            const double r = c / m_L;
+            return Side{static_cast<double>(P) * c, 3 - 6 * r + 3 * r * r, 1 - 3 * r * r + 2 * r * r * r, c};
+        };
+        s.left = side(s.at);
+        s.right = side(f32(m_L - s.at));
+    }
+}
+
+double LineLoadDeflection::at(float x) const
+{
+    double sum = 0;
+    for (const Strip& s : m_strips) {
+        if (s.empty) {
+            continue;
+        }
+        sum += x > s.at ? s.right.at(m_L - x) : s.left.at(x);
     }
     return sum;
+}
+
+double line_load_deflection(float L, float x, float a, float b, float q1, float q2)
+{
+    return LineLoadDeflection(L, a, b, q1, q2).at(x);
 }
 
 double moment_load_deflection(float L, float x, float M, float a)

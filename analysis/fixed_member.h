@@ -21,6 +21,19 @@ ShearMoment point_load_forces(float L, float x, float P, float a);
 // Line load from q1 at a to q2 at b (a uniform load is a = 0, b = L, q1 = q2).
 ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2);
 
+// The same load with what does not depend on x worked out once: its
+// reactions and end moments. at(x) gives line_load_forces to the last bit.
+class LineLoadForces {
+public:
+    LineLoadForces(float L, float a, float b, float q1, float q2);
+    ShearMoment at(float x) const;
+
+private:
+    double m_L, m_a, m_b;
+    float m_q1, m_q2, m_w;
+    float m_RA = 0, m_RB = 0, m_mL = 0, m_mR = 0;
+};
+
 // Concentrated moment M at a, inside the span.
 ShearMoment moment_load_forces(float L, float x, float M, float a);
 
@@ -31,6 +44,31 @@ double uniform_load_deflection(float L, float x, float q);
 
 // Deflection of a line load, summed over 20 strips taken as point loads.
 double line_load_deflection(float L, float x, float a, float b, float q1, float q2);
+
+// The same load with its strips and their coefficients worked out once.
+// at(x) gives line_load_deflection to the last bit.
+class LineLoadDeflection {
+public:
+    LineLoadDeflection(float L, float a, float b, float q1, float q2);
+    double at(float x) const;
+
+    static constexpr int kStrips = 20;
+
+private:
+    // One strip as a point load: the deflection left of it, and right of it
+    // read from the other end, each P c x^2 / 6 (A - B x / c).
+    struct Side {
+        double Pc = 0, A = 0, B = 0, c = 0;
+        double at(double x) const { return Pc * x * x / 6 * (A - B * x / c); }
+    };
+    struct Strip {
+        bool empty = true; // no width, no load
+        float at = 0;
+        Side left, right;
+    };
+    double m_L;
+    Strip m_strips[kStrips];
+};
 
 double moment_load_deflection(float L, float x, float M, float a);
 

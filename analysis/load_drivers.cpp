@@ -106,9 +106,8 @@ void point_and_moment_forces(Model& m, const LoadGroup& g, int span, SetNode&& s
 void line_forces(Model& m, const LoadGroup& g, int span)
 {
     each_row(m, g.trap_n, g.trap_span, span, [&](int k, int i, float L) {
-        add_forces(m, i, [&](float x) {
-            return line_load_forces(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
-        });
+        const LineLoadForces load(L, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
+        add_forces(m, i, [&load](float x) { return load.at(x); });
     });
 }
 
@@ -125,16 +124,16 @@ void point_and_moment_deflections(Model& m, const LoadGroup& g, int span)
 void line_deflections(Model& m, const LoadGroup& g, int span)
 {
     each_row(m, g.trap_n, g.trap_span, span, [&](int k, int i, float L) {
-        add_deflections(m, i, [&](float x) {
-            return line_load_deflection(L, x, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
-        });
+        const LineLoadDeflection load(L, g.trap_a(k), g.trap_b(k), g.trap_q1(k), g.trap_q2(k));
+        add_deflections(m, i, [&load](float x) { return load.at(x); });
     });
 }
 
 void uniform_forces(Model& m, const UniformLoad& u)
 {
     const float L = m.ffl_s(u.span);
-    add_forces(m, u.span, [&](float x) { return line_load_forces(L, x, 0, L, u.q, u.q); });
+    const LineLoadForces load(L, 0, L, u.q, u.q);
+    add_forces(m, u.span, [&load](float x) { return load.at(x); });
 }
 
 void uniform_deflections(Model& m, const UniformLoad& u)

@@ -22,13 +22,14 @@ void run(benchmark::State& state, Model& m)
     // The loads are read from the dialogs' texts, as in the window.
     LoadDialogs dialogs = load_dialogs(m);
     RecordingScreen screen;
-    MainCalc(m, dialogs, screen, scratch);
+    ScratchFiles trace(scratch); // as the window keeps it
+    MainCalc(m, dialogs, screen, trace);
     if (!screen.messages.empty() || !screen.load_failures.empty()) {
         state.SkipWithError("the beam fails its checks");
         return;
     }
     for (auto _ : state) {
-        MainCalc(m, dialogs, screen, scratch);
+        MainCalc(m, dialogs, screen, trace);
         benchmark::DoNotOptimize(m.Uf_mom);
     }
 }

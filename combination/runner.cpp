@@ -39,9 +39,8 @@ void combine_whole(Model& m, LoadCase c)
     combine_reactions(m, k, c);
 }
 
-// Folds a solved case into the combination of pattern p and the envelopes, and
-// traces the combination.
-void fold_case(Model& m, const CaseView& k, LoadCase c, int p, ScratchFiles& trace)
+// Folds a solved case into the combination of a pattern and the envelopes.
+void fold_case(Model& m, const CaseView& k, LoadCase c)
 {
     for (int i = 1; i <= m.nf; ++i) {
         combine_span(m, k, c, i);
@@ -50,11 +49,6 @@ void fold_case(Model& m, const CaseView& k, LoadCase c, int p, ScratchFiles& tra
     }
     combine_reactions(m, k, c);
     reaction_envelope(m);
-
-    if (p == 1) {
-        trace.write_geometry(m);
-    }
-    trace.write_results(m, p);
 }
 
 // A solved case kept for the patterns that repeat it.
@@ -207,15 +201,18 @@ void run_patterns(Model& m, ScratchFiles& trace)
     const auto Q2_case = std::make_unique<SolvedCase>(m);
     const std::vector<SpanLoads> Q1_spans = Q1_by_span(m);
 
+    trace.write_geometry(m);
     for (int p = 1; p <= m.npatterns; ++p) {
         clear_combination(m);
-        fold_case(m, G_case->view(), LoadCase::Egen, p, trace);
-        fold_case(m, Q2_case->view(), LoadCase::Nytt_2, p, trace);
+        fold_case(m, G_case->view(), LoadCase::Egen);
+        fold_case(m, Q2_case->view(), LoadCase::Nytt_2);
         if (p > 1) {
             put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
             solve_current_case(m);
-            fold_case(m, current_case(m), LoadCase::Nytt, p, trace);
+            fold_case(m, current_case(m), LoadCase::Nytt);
         }
+        // The combination of the pattern, all of its cases folded in.
+        trace.write_results(m, p);
     }
 }
 

@@ -17,6 +17,9 @@ void clear_combination(Model& m);
 // Clears every envelope.
 void clear_envelopes(Model& m);
 
+// Both trace the run's geometry and the combination of each pattern; the
+// caller writes the trace.
+
 // Option 1: G, Q1 and Q2 on all spans, one combination copied into the envelopes.
 void run_total(Model& m, ScratchFiles& trace);
 // Option 2: every load pattern of Q1, enveloped; a single span runs the total run.

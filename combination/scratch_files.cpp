@@ -1,28 +1,72 @@
 #include "combination/scratch_files.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstring>
 #include <utility>
 
 namespace kvelder {
 namespace scratch {
+namespace {
 
-void fill_results(const Model& m, ByteRecord& record)
+void put_f32(std::byte* record, std::size_t offset, float v)
 {
-    record.clear();
-    for (int i = 1; i <= m.nf; ++i) {
-        for (int j = 1; j <= m.nxtot_s(i); ++j) {
-            record.put_f32(cell(kOffsetV, i, j), m.C_V(i, j));
-            record.put_f32(cell(kOffsetM, i, j), m.C_M(i, j));
-            record.put_f32(cell(kOffsetW, i, j), m.C_W(i, j));
+    const auto bits = std::bit_cast<std::uint32_t>(v);
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(record + offset, &bits, 4);
+    } else {
+        for (std::size_t b = 0; b < 4; ++b) {
+            record[offset + b] = static_cast<std::byte>((bits >> (8 * b)) & 0xFFU);
         }
-    }
-    for (int k = 1; k <= m.nsup; ++k) {
-        record.put_f32(kOffsetR + 4 * static_cast<std::size_t>(k), m.C_R(k));
-        record.put_f32(kOffsetMR + 4 * static_cast<std::size_t>(k), m.C_MR(k));
     }
 }
 
-// Updates a geometry record in place: what lies beyond the spans and points of
-// this beam stays as an earlier run left it.
+// Each cell of a layout, as fn(offset, span, point) for the three tables of
+// forces and deflections and fn(offset, 0, support) for the two of supports.
+template <typename Fn> void each_cell(const RecordLayout& layout, Fn&& fn)
+{
+    for (int i = 1; i <= layout.nf; ++i) {
+        for (int j = 1; j <= layout.points[i]; ++j) {
+            fn(cell(kOffsetV, i, j), i, j);
+            fn(cell(kOffsetM, i, j), i, j);
+            fn(cell(kOffsetW, i, j), i, j);
+        }
+    }
+    for (int k = 1; k <= layout.nsup; ++k) {
+        fn(kOffsetR + 4 * static_cast<std::size_t>(k), 0, k);
+        fn(kOffsetMR + 4 * static_cast<std::size_t>(k), 0, k);
+    }
+}
+
+} // namespace
+
+RecordLayout layout_of(const Model& m)
+{
+    RecordLayout layout;
+    layout.nf = m.nf;
+    layout.nsup = m.nsup;
+    for (int i = 1; i <= m.nf; ++i) {
+        layout.points[i] = m.nxtot_s(i);
+    }
+    return layout;
+}
+
+void fill_results(const Model& m, std::byte* record, const RecordLayout& before)
+{
+    each_cell(before, [record](std::size_t offset, int, int) { std::memset(record + offset, 0, 4); });
+    for (int i = 1; i <= m.nf; ++i) {
+        for (int j = 1; j <= m.nxtot_s(i); ++j) {
+            put_f32(record, cell(kOffsetV, i, j), m.C_V(i, j));
+            put_f32(record, cell(kOffsetM, i, j), m.C_M(i, j));
+            put_f32(record, cell(kOffsetW, i, j), m.C_W(i, j));
+        }
+    }
+    for (int k = 1; k <= m.nsup; ++k) {
+        put_f32(record, kOffsetR + 4 * static_cast<std::size_t>(k), m.C_R(k));
+        put_f32(record, kOffsetMR + 4 * static_cast<std::size_t>(k), m.C_MR(k));
+    }
+}
+
 void fill_geometry(const Model& m, ByteRecord& record)
 {
     record.put_i16(kOffsetNf, m.nf);
@@ -67,34 +111,56 @@ void ScratchFiles::write_geometry(const Model& m)
         m_geometry_failed = true;
         return;
     }
-    m_geometry_record.clear();
-    m_geometry.clear();
-    m_geometry.seekg(0);
-    m_geometry.read(reinterpret_cast<char*>(m_geometry_record.data()),
-                    static_cast<std::streamsize>(m_geometry_record.size()));
-    m_geometry.clear(); // a short or new file reads as much as it has
-
+    if (!m_geometry_read) {
+        // What lies beyond this beam stays as the file has it.
+        m_geometry.clear();
+        m_geometry.seekg(0);
+        m_geometry.read(reinterpret_cast<char*>(m_geometry_record.data()),
+                        static_cast<std::streamsize>(m_geometry_record.size()));
+        m_geometry.clear(); // a short or new file reads as much as it has
+        m_geometry_read = true;
+    }
     scratch::fill_geometry(m, m_geometry_record);
-    m_geometry.seekp(0);
-    m_geometry.write(reinterpret_cast<const char*>(m_geometry_record.data()),
-                     static_cast<std::streamsize>(m_geometry_record.size()));
-    m_geometry.flush();
-    m_geometry_failed = !m_geometry;
+    m_geometry_due = true;
 }
 
 void ScratchFiles::write_results(const Model& m, int pattern)
 {
-    if (m_results_failed || !open(m_results, scratch::kResultsFile)) {
-        m_results_failed = true;
+    if (pattern < 1) {
         return;
     }
-    scratch::fill_results(m, m_results_record);
-    const auto offset = static_cast<std::streamoff>(scratch::kResultsLength) * (pattern - 1);
-    m_results.seekp(offset);
-    m_results.write(reinterpret_cast<const char*>(m_results_record.data()),
-                    static_cast<std::streamsize>(m_results_record.size()));
-    m_results.flush();
-    m_results_failed = !m_results;
+    const auto p = static_cast<std::size_t>(pattern);
+    if (m_layouts.size() < p) {
+        m_layouts.resize(p);
+        m_results_records.resize(p * scratch::kResultsLength);
+    }
+    std::byte* record = m_results_records.data() + (p - 1) * scratch::kResultsLength;
+    scratch::fill_results(m, record, m_layouts[p - 1]);
+    m_layouts[p - 1] = scratch::layout_of(m);
+    m_patterns = std::max(m_patterns, pattern);
+}
+
+void ScratchFiles::write_run()
+{
+    if (m_geometry_due) {
+        m_geometry.seekp(0);
+        m_geometry.write(reinterpret_cast<const char*>(m_geometry_record.data()),
+                         static_cast<std::streamsize>(m_geometry_record.size()));
+        m_geometry.flush();
+        m_geometry_failed = !m_geometry;
+    }
+    if (m_patterns > 0 && !m_results_failed && open(m_results, scratch::kResultsFile)) {
+        m_results.seekp(0);
+        m_results.write(
+            reinterpret_cast<const char*>(m_results_records.data()),
+            static_cast<std::streamsize>(static_cast<std::size_t>(m_patterns) * scratch::kResultsLength));
+        m_results.flush();
+        m_results_failed = !m_results;
+    } else if (m_patterns > 0) {
+        m_results_failed = true;
+    }
+    m_geometry_due = false;
+    m_patterns = 0;
 }
 
 } // namespace kvelder

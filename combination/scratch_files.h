@@ -4,8 +4,10 @@
 #include "model/model.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <vector>
 
 namespace kvelder {
 
@@ -46,21 +48,39 @@ constexpr std::size_t cell(std::size_t base, int i, int j)
 static_assert(kOffsetMR + 4 * kSupportSlots == kResultsLength);
 static_assert(kOffsetPositions + kTableBytes == kGeometryLength);
 
-// The record contents, apart from any file.
-void fill_results(const Model& m, ByteRecord& record);
+// The cells of a results record that hold numbers: every point of every span
+// and every support, as the beam of one run has them.
+struct RecordLayout {
+    int nf = 0;
+    int nsup = 0;
+    std::int16_t points[kSpanSlots] = {};
+};
+RecordLayout layout_of(const Model& m);
+
+// Puts the combination of the model into a results record that holds zeros
+// but for the cells of `before`.
+void fill_results(const Model& m, std::byte* record, const RecordLayout& before);
+// Updates a geometry record in place: what lies beyond the spans and points of
+// this beam stays as an earlier run left it.
 void fill_geometry(const Model& m, ByteRecord& record);
 
 } // namespace scratch
 
-// Writes the two files of one run in a folder. The files open on first use and
-// close with the object. A folder that cannot be written leaves no trace and no
-// error: the trace must never stand in the way of a calculation.
+// The trace of the runs of one process in a folder. A run traces its geometry
+// and the combination of each pattern; write_run then writes each file in one
+// piece. The files stay open, and the records in memory as the files hold
+// them, from one run to the next. A folder that cannot be written leaves no
+// trace and no error: the trace must never stand in the way of a calculation.
 class ScratchFiles {
 public:
     explicit ScratchFiles(std::filesystem::path folder);
+    ScratchFiles(const ScratchFiles&) = delete;
+    ScratchFiles& operator=(const ScratchFiles&) = delete;
 
     void write_geometry(const Model& m);
     void write_results(const Model& m, int pattern);
+    // Writes what the run traced, and starts the next run.
+    void write_run();
 
 private:
     bool open(std::fstream& file, const char* name);
@@ -70,8 +90,14 @@ private:
     std::fstream m_geometry;
     bool m_results_failed = false;
     bool m_geometry_failed = false;
-    ByteRecord m_results_record{scratch::kResultsLength};
+    // Records 1, 2, ... as the results file holds them, each zero but for the
+    // cells of its layout.
+    std::vector<std::byte> m_results_records;
+    std::vector<scratch::RecordLayout> m_layouts;
+    int m_patterns = 0; // records traced in this run
     ByteRecord m_geometry_record{scratch::kGeometryLength};
+    bool m_geometry_read = false;
+    bool m_geometry_due = false;
 };
 
 } // namespace kvelder

@@ -30,8 +30,13 @@ public:
 private:
     void put(std::size_t offset, std::uint64_t v, std::size_t width)
     {
-        for (std::size_t b = 0; b < width; ++b) {
-            m_bytes.at(offset + b) = static_cast<std::byte>((v >> (8 * b)) & 0xFFU);
+        std::byte* at = &m_bytes.at(offset + width - 1) - (width - 1);
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(at, &v, width); // the low bytes first, as the file wants them
+        } else {
+            for (std::size_t b = 0; b < width; ++b) {
+                at[b] = static_cast<std::byte>((v >> (8 * b)) & 0xFFU);
+            }
         }
     }
     std::uint64_t get(std::size_t offset, std::size_t width) const

@@ -73,7 +73,8 @@ private:
 
 MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, RecentFileStore& recent,
                        WindowFolders folders)
-    : m_model(m), m_dialogs(dialogs), m_prompter(prompter), m_recent(recent), m_folders(std::move(folders))
+    : m_model(m), m_dialogs(dialogs), m_prompter(prompter), m_recent(recent), m_folders(std::move(folders)),
+      m_trace(m_folders.scratch)
 {
     setObjectName("frmMain");
     // Frame titles in the program's blue.
@@ -313,7 +314,7 @@ void MainWindow::recalculate()
     m_running = true;
     const bool past_gate = !data_missing(m_model);
     RecordingScreen screen;
-    MainCalc(m_model, m_dialogs, screen, m_folders.scratch);
+    MainCalc(m_model, m_dialogs, screen, m_trace);
     // A loader's run clears the flag also when the beam stops at the gate.
     m_model.loading_flag = kFalse;
     if (past_gate) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "combination/scratch_files.h"
 #include "files/data_files.h"
 #include "files/recent_files.h"
 #include "gui/workspace.h"
@@ -120,6 +121,7 @@ private:
     RecentFileStore& m_recent;
     WindowFolders m_folders;
     ProjectSession m_session;
+    ScratchFiles m_trace; // kept open from one run to the next
     PrintSession m_print;
 
     SpanPanel* m_spans = nullptr;

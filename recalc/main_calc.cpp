@@ -83,7 +83,7 @@ void check_loads(Model& m, LoadDialogs* dialogs, CalcScreen& screen)
     m.err_section = flag_of(all_empty);
 }
 
-void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, const std::filesystem::path& scratch_folder)
+void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, ScratchFiles& trace)
 {
     m.calc_invalid = kFalse;
     if (data_missing(m)) {
@@ -105,7 +105,7 @@ void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, const std::filesyst
         Calc_leff(m);
     }
 
-    run_analysis(m, scratch_folder);
+    run_analysis(m, trace);
     screen.clear_picture(Picture::Picresult);
     screen.clear_picture(Picture::Picdisp);
 
@@ -120,14 +120,26 @@ void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, const std::filesyst
 
 } // namespace
 
+void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, ScratchFiles& trace)
+{
+    run(m, &dialogs, screen, trace);
+}
+
+void MainCalc(Model& m, CalcScreen& screen, ScratchFiles& trace)
+{
+    run(m, nullptr, screen, trace);
+}
+
 void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, const std::filesystem::path& scratch_folder)
 {
-    run(m, &dialogs, screen, scratch_folder);
+    ScratchFiles trace(scratch_folder);
+    run(m, &dialogs, screen, trace);
 }
 
 void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder)
 {
-    run(m, nullptr, screen, scratch_folder);
+    ScratchFiles trace(scratch_folder);
+    run(m, nullptr, screen, trace);
 }
 
 } // namespace kvelder

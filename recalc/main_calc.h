@@ -1,5 +1,6 @@
 #pragma once
 
+#include "combination/scratch_files.h"
 #include "model/model.h"
 #include "recalc/calc_screen.h"
 
@@ -17,11 +18,14 @@ bool data_missing(const Model& m);
 // section properties, the analysis of every load case, combination and
 // envelope, to the code checks. A beam whose input flags are set stops at the
 // gate with one message and leaves every result of the last run standing.
-// The trace of the run is written to `scratch_folder` (the current directory
-// when empty) where that is possible.
+// The trace of the run is written through `trace`, which a program keeps
+// from one run to the next, or to `scratch_folder` (the current directory when
+// empty), where that is possible.
 //
 // With load dialogs, their boxes are the master of the loads: each group reads
 // its rows from them. Without, the group's tables are checked as they stand.
+void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, ScratchFiles& trace);
+void MainCalc(Model& m, CalcScreen& screen, ScratchFiles& trace);
 void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen,
               const std::filesystem::path& scratch_folder = {});
 void MainCalc(Model& m, CalcScreen& screen, const std::filesystem::path& scratch_folder = {});

@@ -21,7 +21,7 @@ void analysis_constants(Model& m)
 
 } // namespace
 
-void run_analysis(Model& m, const std::filesystem::path& scratch_folder)
+void run_analysis(Model& m, ScratchFiles& trace)
 {
     analysis_constants(m);
     assemble_and_factorise(m);
@@ -31,12 +31,18 @@ void run_analysis(Model& m, const std::filesystem::path& scratch_folder)
     m.C_Winst.fill(0);
     clear_envelopes(m);
 
-    ScratchFiles trace(scratch_folder);
     if (m.loadcomb_option == 1) {
         run_total(m, trace);
     } else if (m.loadcomb_option == 2) {
         run_patterns(m, trace);
     }
+    trace.write_run();
+}
+
+void run_analysis(Model& m, const std::filesystem::path& scratch_folder)
+{
+    ScratchFiles trace(scratch_folder);
+    run_analysis(m, trace);
 }
 
 } // namespace kvelder

@@ -102,6 +102,8 @@ void start(Model& m, const Options& o, std::ostream& err)
 struct Prepared {
     std::vector<Message> checks;
     std::optional<LoadDialogs> dialogs;
+    // The trace in the current folder, kept open from one run to the next.
+    std::unique_ptr<ScratchFiles> trace = std::make_unique<ScratchFiles>(fs::path());
 };
 
 Prepared prepare(Model& m, const Options& o, std::ostream& err)
@@ -125,9 +127,9 @@ Prepared prepare(Model& m, const Options& o, std::ostream& err)
 void recalculate(Model& m, Prepared& p, CalcScreen& screen)
 {
     if (p.dialogs) {
-        MainCalc(m, *p.dialogs, screen);
+        MainCalc(m, *p.dialogs, screen, *p.trace);
     } else {
-        MainCalc(m, screen);
+        MainCalc(m, screen, *p.trace);
     }
 }
 

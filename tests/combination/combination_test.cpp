@@ -12,6 +12,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <set>
 #include <vector>
 
@@ -117,6 +118,12 @@ std::unique_ptr<Model> two_span_beam()
     return m;
 }
 
+std::string contents(const fs::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
 void run_in(Model& m, const fs::path& folder)
 {
     build_calculation_grids(m);
@@ -149,6 +156,31 @@ TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
     EXPECT_EQ(read_record(folder / "Geometri", 9398, 1).get_i16(2), 4);
     run_in(*m, folder);
     EXPECT_EQ(read_record(folder / "Geometri", 9398, 1).get_i16(2), 1);
+
+    // The same runs through one trace kept open, as the window keeps it, leave
+    // the same bytes.
+    const fs::path kept = scratch_folder() / "trace_kept";
+    fs::remove_all(kept);
+    fs::create_directories(kept);
+    {
+        ScratchFiles trace(kept);
+        three = make_beam({3.0F, 4.0F, 5.0F});
+        three->loadcomb_option = 2;
+        add_uniform(three->Q1, 3, 1.0F);
+        m = two_span_beam();
+        const auto run = [&trace](Model& beam) {
+            build_calculation_grids(beam);
+            run_analysis(beam, trace);
+        };
+        run(*three);
+        run(*m);
+        m->loadcomb_option = 1;
+        run(*m);
+        run(*m);
+    }
+    for (const char* file : {"Resultater", "Geometri"}) {
+        EXPECT_EQ(contents(kept / file), contents(folder / file)) << file;
+    }
 }
 
 TEST(ScratchFiles, AFolderThatCannotBeWrittenCostsTheCalculationNothing)
