@@ -51,20 +51,31 @@ double point_deflection_anywhere(float L, float x, float P, float a)
 
 } // namespace
 
+PointLoadForces::PointLoadForces(float L, float P, float a) : m_L(L), m_P(P)
+{
+    m_a = keep_off_ends(L, a, 0.001);
+    const double Ld = m_L;
+    m_b = f32(Ld - m_a);
+    m_mL = f32(static_cast<double>(P) * m_a * m_b * m_b / (Ld * Ld));
+    m_mR = f32(static_cast<double>(m_mL) * m_a / m_b);
+    m_R = f32((static_cast<double>(m_mL) - m_mR) / Ld);
+}
+
+ShearMoment PointLoadForces::at(float x) const
+{
+    const double Ld = m_L;
+    const float T = f32(-((static_cast<double>(m_mR) - m_mL) * x / Ld + m_mL));
+    if (left_of(x, m_a)) {
+        return {f32(static_cast<double>(m_b) * m_P / Ld + m_R),
+                f32(static_cast<double>(m_b) * m_P / Ld * x + T)};
+    }
+    return {f32(-static_cast<double>(m_P) * m_a / Ld + m_R),
+            f32(static_cast<double>(m_P) * m_a / Ld * (Ld - x) + T)};
+}
+
 ShearMoment point_load_forces(float L, float x, float P, float a)
 {
-    a = keep_off_ends(L, a, 0.001);
-    const double Ld = L;
-    const float b = f32(Ld - a);
-    const float mL = f32(static_cast<double>(P) * a * b * b / (Ld * Ld));
-    const float mR = f32(static_cast<double>(mL) * a / b);
-    const float R = f32((static_cast<double>(mL) - mR) / Ld);
-    const float T = f32(-((static_cast<double>(mR) - mL) * x / Ld + mL));
-
-    if (left_of(x, a)) {
-        return {f32(static_cast<double>(b) * P / Ld + R), f32(static_cast<double>(b) * P / Ld * x + T)};
-    }
-    return {f32(-static_cast<double>(P) * a / Ld + R), f32(static_cast<double>(P) * a / Ld * (Ld - x) + T)};
+    return PointLoadForces(L, P, a).at(x);
 }
 
 LineLoadForces::LineLoadForces(float L, float a, float b, float q1, float q2)
@@ -133,18 +144,26 @@ ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float
     return LineLoadForces(L, a, b, q1, q2).at(x);
 }
 
+MomentLoadForces::MomentLoadForces(float L, float M, float a) : m_M(M)
+{
+    m_a = keep_off_ends(L, a, 0.0001);
+    const double Ld = L;
+    const float b = f32(Ld - m_a);
+    m_shear = f32(-6.0 * M * m_a * b / std::pow(Ld, 3.0));
+    m_mL = f32(static_cast<double>(M) * b * (2.0 * m_a - b) / std::pow(Ld, 2.0));
+}
+
+ShearMoment MomentLoadForces::at(float x) const
+{
+    if (left_of(x, m_a)) {
+        return {m_shear, f32(static_cast<double>(m_shear) * x + m_mL)};
+    }
+    return {m_shear, f32(static_cast<double>(m_shear) * x + m_mL + m_M)};
+}
+
 ShearMoment moment_load_forces(float L, float x, float M, float a)
 {
-    a = keep_off_ends(L, a, 0.0001);
-    const double Ld = L;
-    const float b = f32(Ld - a);
-    const float shear = f32(-6.0 * M * a * b / std::pow(Ld, 3.0));
-    const float mL = f32(static_cast<double>(M) * b * (2.0 * a - b) / std::pow(Ld, 2.0));
-
-    if (left_of(x, a)) {
-        return {shear, f32(static_cast<double>(shear) * x + mL)};
-    }
-    return {shear, f32(static_cast<double>(shear) * x + mL + M)};
+    return MomentLoadForces(L, M, a).at(x);
 }
 
 double point_load_deflection(float L, float x, float P, float a)

@@ -18,6 +18,18 @@ struct ShearMoment {
 // Point load P at a. A load closer than 1 mm to an end is moved to 1 mm.
 ShearMoment point_load_forces(float L, float x, float P, float a);
 
+// The same load with its end moments worked out once; at(x) gives
+// point_load_forces to the last bit.
+class PointLoadForces {
+public:
+    PointLoadForces(float L, float P, float a);
+    ShearMoment at(float x) const;
+
+private:
+    double m_L;
+    float m_P, m_a, m_b, m_mL, m_mR, m_R;
+};
+
 // Line load from q1 at a to q2 at b (a uniform load is a = 0, b = L, q1 = q2).
 ShearMoment line_load_forces(float L, float x, float a, float b, float q1, float q2);
 
@@ -36,6 +48,17 @@ private:
 
 // Concentrated moment M at a, inside the span.
 ShearMoment moment_load_forces(float L, float x, float M, float a);
+
+// The same load with its shear and end moment worked out once; at(x) gives
+// moment_load_forces to the last bit.
+class MomentLoadForces {
+public:
+    MomentLoadForces(float L, float M, float a);
+    ShearMoment at(float x) const;
+
+private:
+    float m_M, m_a, m_shear, m_mL;
+};
 
 // Deflection of a point load; nothing for a load within 1 mm of an end.
 double point_load_deflection(float L, float x, float P, float a);

@@ -86,13 +86,15 @@ template <typename SetNode>
 void point_and_moment_forces(Model& m, const LoadGroup& g, int span, SetNode&& set_node)
 {
     each_row(m, g.pt_n, g.pt_span, span, [&](int k, int i, float L) {
-        add_forces(m, i, [&](float x) { return point_load_forces(L, x, g.pt_P(k), g.pt_a(k)); });
+        const PointLoadForces load(L, g.pt_P(k), g.pt_a(k));
+        add_forces(m, i, [&load](float x) { return load.at(x); });
     });
     each_row(m, g.mom_n, g.mom_span, span, [&](int k, int i, float L) {
         const float a = g.mom_a(k);
         const float M = g.mom_M(k);
         if (0.001 <= a && a <= L - 0.001) {
-            add_forces(m, i, [&](float x) { return moment_load_forces(L, x, M, a); });
+            const MomentLoadForces load(L, M, a);
+            add_forces(m, i, [&load](float x) { return load.at(x); });
         } else if (a > L - 0.001) {
             // On the node at the span's end. Set, not added: a later row on the
             // same node replaces an earlier one.

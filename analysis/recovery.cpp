@@ -78,7 +78,22 @@ void member_reactions(Model& m, int i)
     }
 }
 
-void member_deflections(Model& m, int i)
+DeflectionShapes::DeflectionShapes(const Model& m)
+    : m_shapes(static_cast<std::size_t>(kMaxSpans * kMaxPoints))
+{
+    for (int i = 1; i <= m.nf; ++i) {
+        const double L = m.ffl_s(i);
+        for (int j = 3; j <= m.nxtot_s(i); ++j) {
+            const double x = m.xl_s(i, j);
+            const double x2 = x * x;
+            const double x3 = x2 * x;
+            const double L2 = L * L;
+            m_shapes[index(i, j)] = {x2 / L2, 3 - 2 * x / L, x3 / L2 - x2 / L, x3 / L2 - 2 * x2 / L + x};
+        }
+    }
+}
+
+void member_deflections(Model& m, int i, const DeflectionShapes& shapes)
 {
     const auto [vA, tA, vB, tB] = end_displacements(m, i);
     if (m.nsupLeft_s == kFree && i == 1) {
@@ -88,17 +103,17 @@ void member_deflections(Model& m, int i)
         m.W_tot(i, 2) = vB * 1000;
     }
 
-    const double L = m.ffl_s(i);
     const double EI = m.E_kNm2 * m.I_span_m4(i);
     for (int j = 3; j <= m.nxtot_s(i); ++j) {
-        const double x = m.xl_s(i, j);
-        const double x2 = x * x;
-        const double x3 = x2 * x;
-        const double L2 = L * L;
-        m.W_nod(i, j) = vA + (x2 / L2) * (vB - vA) * (3 - 2 * x / L) + tB * (x3 / L2 - x2 / L) +
-                        tA * (x3 / L2 - 2 * x2 / L + x);
+        const auto& [p, q, r, s] = shapes.at(i, j);
+        m.W_nod(i, j) = vA + p * (vB - vA) * q + tB * r + tA * s;
         m.W_tot(i, j) = 1000 * (m.W_nod(i, j) - m.W_fix(i, j) / EI);
     }
+}
+
+void member_deflections(Model& m, int i)
+{
+    member_deflections(m, i, DeflectionShapes(m));
 }
 
 } // namespace kvelder

@@ -2,6 +2,10 @@
 
 #include "model/model.h"
 
+#include <array>
+#include <cstddef>
+#include <vector>
+
 namespace kvelder {
 
 // Recovery of member i after the load case has been solved.
@@ -14,8 +18,26 @@ void member_forces(Model& m, int i);
 // ends; a downward load gives a positive react_V.
 void member_reactions(Model& m, int i);
 
+// What the deflection between the nodes takes of each calculation point's
+// place along its span: the same for every load case on the same grid.
+class DeflectionShapes {
+public:
+    explicit DeflectionShapes(const Model& m);
+    // The four factors of point j of span i: of the end deflections, of their
+    // difference, and of the end rotations at B and at A.
+    const std::array<double, 4>& at(int i, int j) const { return m_shapes[index(i, j)]; }
+
+private:
+    static std::size_t index(int i, int j)
+    {
+        return static_cast<std::size_t>((i - 1) * kMaxPoints + (j - 1));
+    }
+    std::vector<std::array<double, 4>> m_shapes;
+};
+
 // Deflection in mm, up positive, at every calculation point (W_nod, W_tot).
 // Only a free end has a deflection of its own; other end values stay 0.
+void member_deflections(Model& m, int i, const DeflectionShapes& shapes);
 void member_deflections(Model& m, int i);
 
 } // namespace kvelder

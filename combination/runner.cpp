@@ -13,19 +13,39 @@
 namespace kvelder {
 namespace {
 
-void recover_span(Model& m, int i)
+// Clears the tables of one load case where this beam's spans and points put
+// numbers. The rest of each table stays zero from the clearing at the start of
+// the run: no case of the run writes beyond its spans and points.
+void clear_used(Model& m)
+{
+    m.F_load.fill(0);
+    m.D_disp.fill(0);
+    m.react_V.fill(0);
+    m.react_M.fill(0);
+    for (int i = 1; i <= m.nf; ++i) {
+        const int points = m.nxtot_s(i);
+        for (int r = 1; r <= 2 * points; ++r) {
+            m.SF_fix(i, r) = 0, m.SF_end(i, r) = 0, m.SF_tot(i, r) = 0;
+        }
+        for (int j = 1; j <= points; ++j) {
+            m.W_fix(i, j) = 0, m.W_nod(i, j) = 0, m.W_tot(i, j) = 0;
+        }
+    }
+}
+
+void recover_span(Model& m, int i, const DeflectionShapes& shapes)
 {
     member_reactions(m, i);
     member_forces(m, i);
-    member_deflections(m, i);
+    member_deflections(m, i, shapes);
 }
 
-void solve_current_case(Model& m)
+void solve_current_case(Model& m, const DeflectionShapes& shapes)
 {
     nodal_load_vector(m);
     solve_load_case(m);
     for (int i = 1; i <= m.nf; ++i) {
-        recover_span(m, i);
+        recover_span(m, i, shapes);
     }
 }
 
@@ -76,7 +96,7 @@ struct SpanLoads {
 std::vector<SpanLoads> Q1_by_span(Model& m)
 {
     std::vector<SpanLoads> spans(static_cast<std::size_t>(m.nf));
-    clear_case(m);
+    clear_used(m);
     for (int s = 1; s <= m.nf; ++s) {
         SpanLoads& q = spans[static_cast<std::size_t>(s - 1)];
         variable_forces(m, m.Q1, s, q.node_loads);
@@ -93,7 +113,7 @@ std::vector<SpanLoads> Q1_by_span(Model& m)
 // build it into freshly cleared case tables.
 void put_Q1(Model& m, const std::vector<SpanLoads>& by_span, std::span<const int> spans)
 {
-    clear_case(m);
+    clear_used(m);
     for (const int s : spans) {
         const SpanLoads& q = by_span[static_cast<std::size_t>(s - 1)];
         for (int r = 1; r <= kForceRows; ++r) {
@@ -151,19 +171,20 @@ void clear_envelopes(Model& m)
 
 void run_total(Model& m, ScratchFiles& trace)
 {
+    const DeflectionShapes shapes(m);
     G_forces(m);
     G_deflections(m);
-    solve_current_case(m);
+    solve_current_case(m, shapes);
     combine_whole(m, LoadCase::Egen);
 
-    clear_case(m);
+    clear_used(m);
     add_variable_group(m, Q1_forces, Q1_deflections);
-    solve_current_case(m);
+    solve_current_case(m, shapes);
     combine_whole(m, LoadCase::Nytt);
 
-    clear_case(m);
+    clear_used(m);
     add_variable_group(m, Q2_forces, Q2_deflections);
-    solve_current_case(m);
+    solve_current_case(m, shapes);
     combine_whole(m, LoadCase::Nytt_2);
 
     for (int i = 1; i <= m.nf; ++i) {
@@ -186,18 +207,19 @@ void run_patterns(Model& m, ScratchFiles& trace)
         return;
     }
     m.npatterns = static_cast<std::int16_t>(pattern_count(m.nf));
+    const DeflectionShapes shapes(m);
 
     // G and Q2 are the same in every pattern, and Q1 on a span is the same in
     // every pattern that loads the span: each is worked out once, in the tables
     // a pattern would build it in, and folded in anew by each pattern.
-    clear_case(m);
+    clear_used(m);
     G_forces(m);
     G_deflections(m);
-    solve_current_case(m);
+    solve_current_case(m, shapes);
     const auto G_case = std::make_unique<SolvedCase>(m);
-    clear_case(m);
+    clear_used(m);
     add_variable_group(m, Q2_forces, Q2_deflections);
-    solve_current_case(m);
+    solve_current_case(m, shapes);
     const auto Q2_case = std::make_unique<SolvedCase>(m);
     const std::vector<SpanLoads> Q1_spans = Q1_by_span(m);
 
@@ -208,7 +230,7 @@ void run_patterns(Model& m, ScratchFiles& trace)
         fold_case(m, Q2_case->view(), LoadCase::Nytt_2);
         if (p > 1) {
             put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
-            solve_current_case(m);
+            solve_current_case(m, shapes);
             fold_case(m, current_case(m), LoadCase::Nytt);
         }
         // The combination of the pattern, all of its cases folded in.

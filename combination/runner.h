@@ -17,8 +17,9 @@ void clear_combination(Model& m);
 // Clears every envelope.
 void clear_envelopes(Model& m);
 
-// Both trace the run's geometry and the combination of each pattern; the
-// caller writes the trace.
+// Both start from case tables that clear_case has cleared, and trace the
+// run's geometry and the combination of each pattern; the caller writes the
+// trace.
 
 // Option 1: G, Q1 and Q2 on all spans, one combination copied into the envelopes.
 void run_total(Model& m, ScratchFiles& trace);

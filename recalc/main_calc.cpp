@@ -59,8 +59,11 @@ void check_loads(Model& m, LoadDialogs* dialogs, CalcScreen& screen)
         m.err_load_item = kFalse;
         const std::optional<LoadRowFailure> failure =
             check_group(m, id, dialogs != nullptr ? &(*dialogs)[static_cast<std::size_t>(id)] : nullptr);
-        // The grid is kept sorted even after a failure, so that nothing reads it out of order.
-        normalise_grid(m, m.nxtot_s, 50, m.xl_s);
+        // Each group's points build the grids afresh; the last build is sorted,
+        // also after a failure, so that nothing reads the grid out of order.
+        if (failure || id == kLoadGroups.back()) {
+            normalise_grid(m, m.nxtot_s, 50, m.xl_s);
+        }
         const bool self_weight = id == LoadGroupId::G && is_true(m.profile_weight_on);
         empty_flag(m, id) = flag_of(group_of(m, id).empty() && !self_weight);
         if (failure) {
