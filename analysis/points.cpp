@@ -1,5 +1,6 @@
 #include "analysis/points.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -18,6 +19,27 @@ void append_list(GridCounts& counts, GridPositions& x, int span,
 {
     for (int k = 1; k <= list_count(span); ++k) {
         x(span, ++counts(span)) = list_x(span, k);
+    }
+}
+
+// Points 3 to `count` of a span in ascending order, as exchanging every pair
+// out of order sorts them. A grid of numbers sorts to the same bits by any
+// method, and one already in order stays as it is; the exchange itself is
+// kept for a grid with a value that is no number, whose order it alone defines.
+void sort_interior(GridPositions& x, int span, int count)
+{
+    float* first = &x(span, 3);
+    float* last = first + std::max(0, count - 2);
+    if (std::any_of(first, last, [](float v) { return std::isnan(v); })) {
+        for (float* k = first; k < last; ++k) {
+            for (float* l = k + 1; l < last; ++l) {
+                if (*k > *l) {
+                    std::swap(*k, *l);
+                }
+            }
+        }
+    } else if (!std::is_sorted(first, last)) {
+        std::sort(first, last);
     }
 }
 
@@ -75,13 +97,7 @@ void normalise_grid(const Model& m, GridCounts& counts, int n, GridPositions& x)
             counts(i) = static_cast<std::int16_t>(2 + kept);
         }
 
-        for (int k = 3; k <= counts(i); ++k) {
-            for (int l = k + 1; l <= counts(i); ++l) {
-                if (x(i, k) > x(i, l)) {
-                    std::swap(x(i, k), x(i, l));
-                }
-            }
-        }
+        sort_interior(x, i, counts(i));
     }
 }
 

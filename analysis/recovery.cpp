@@ -79,7 +79,8 @@ void member_reactions(Model& m, int i)
 }
 
 DeflectionShapes::DeflectionShapes(const Model& m)
-    : m_shapes(static_cast<std::size_t>(kMaxSpans * kMaxPoints))
+    : m_shapes(std::make_unique_for_overwrite<std::array<double, 4>[]>(
+          static_cast<std::size_t>(kMaxSpans * kMaxPoints)))
 {
     for (int i = 1; i <= m.nf; ++i) {
         const double L = m.ffl_s(i);

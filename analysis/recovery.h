@@ -4,7 +4,7 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
+#include <memory>
 
 namespace kvelder {
 
@@ -32,7 +32,8 @@ private:
     {
         return static_cast<std::size_t>((i - 1) * kMaxPoints + (j - 1));
     }
-    std::vector<std::array<double, 4>> m_shapes;
+    // Only the points of the beam are ever written and read.
+    std::unique_ptr<std::array<double, 4>[]> m_shapes;
 };
 
 // Deflection in mm, up positive, at every calculation point (W_nod, W_tot).

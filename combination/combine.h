@@ -9,7 +9,7 @@ namespace kvelder {
 // the deflections and the support reactions.
 struct CaseView {
     const Table2<float, kMaxSpans, kForceRows>& SF_tot;
-    const Table2<double, kMaxSpans, kForceRows>& W_tot;
+    const Table2<double, kMaxSpans, kMaxPoints>& W_tot;
     const Table<float, kMaxNodes>& react_V;
     const Table<float, kMaxNodes>& react_M;
 };

@@ -80,7 +80,7 @@ struct SolvedCase {
     CaseView view() const { return {SF_tot, W_tot, react_V, react_M}; }
 
     Table2<float, kMaxSpans, kForceRows> SF_tot;
-    Table2<double, kMaxSpans, kForceRows> W_tot;
+    Table2<double, kMaxSpans, kMaxPoints> W_tot;
     Table<float, kMaxNodes> react_V;
     Table<float, kMaxNodes> react_M;
 };
@@ -89,7 +89,7 @@ struct SolvedCase {
 // tables, which no other span touches, and the moments it sets on nodes.
 struct SpanLoads {
     Table<float, kForceRows> SF_fix;
-    Table<double, kForceRows> W_fix;
+    Table<double, kMaxPoints> W_fix;
     std::vector<NodeLoad> node_loads;
 };
 
@@ -101,9 +101,10 @@ std::vector<SpanLoads> Q1_by_span(Model& m)
         SpanLoads& q = spans[static_cast<std::size_t>(s - 1)];
         variable_forces(m, m.Q1, s, q.node_loads);
         Q1_deflections(m, s);
-        for (int r = 1; r <= kForceRows; ++r) {
-            q.SF_fix(r) = m.SF_fix(s, r);
-            q.W_fix(r) = m.W_fix(s, r);
+        for (int j = 1; j <= m.nxtot_s(s); ++j) {
+            q.SF_fix(2 * j - 1) = m.SF_fix(s, 2 * j - 1);
+            q.SF_fix(2 * j) = m.SF_fix(s, 2 * j);
+            q.W_fix(j) = m.W_fix(s, j);
         }
     }
     return spans;
@@ -116,9 +117,10 @@ void put_Q1(Model& m, const std::vector<SpanLoads>& by_span, std::span<const int
     clear_used(m);
     for (const int s : spans) {
         const SpanLoads& q = by_span[static_cast<std::size_t>(s - 1)];
-        for (int r = 1; r <= kForceRows; ++r) {
-            m.SF_fix(s, r) = q.SF_fix(r);
-            m.W_fix(s, r) = q.W_fix(r);
+        for (int j = 1; j <= m.nxtot_s(s); ++j) {
+            m.SF_fix(s, 2 * j - 1) = q.SF_fix(2 * j - 1);
+            m.SF_fix(s, 2 * j) = q.SF_fix(2 * j);
+            m.W_fix(s, j) = q.W_fix(j);
         }
         for (const NodeLoad& n : q.node_loads) {
             m.F_load(n.index) = n.value;

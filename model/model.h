@@ -152,9 +152,9 @@ struct Model {
     Table2<float, kMaxSpans, kForceRows> SF_fix; // both member ends held
     Table2<float, kMaxSpans, kForceRows> SF_end; // from the end displacements
     Table2<float, kMaxSpans, kForceRows> SF_tot;
-    Table2<double, kMaxSpans, kForceRows> W_fix; // EI x deflection, down positive
-    Table2<double, kMaxSpans, kForceRows> W_nod; // m, up positive
-    Table2<double, kMaxSpans, kForceRows> W_tot; // mm, up positive, row j for point j
+    Table2<double, kMaxSpans, kMaxPoints> W_fix; // EI x deflection, down positive
+    Table2<double, kMaxSpans, kMaxPoints> W_nod; // m, up positive
+    Table2<double, kMaxSpans, kMaxPoints> W_tot; // mm, up positive, row j for point j
     Table<float, kMaxNodes> react_V;
     Table<float, kMaxNodes> react_M;
 
