@@ -185,29 +185,53 @@ LineLoadDeflection::LineLoadDeflection(float L, float a, float b, float q1, floa
 {
     const double dx = (static_cast<double>(b) - a) / kStrips;
     const double dq = (static_cast<double>(q2) - q1) / kStrips;
-    for (int k = 1; k <= kStrips; ++k) {
-        Strip& s = m_strips[k - 1];
-        const float P = f32(dx * (q1 + (k - 0.5) * dq));
-        s.at = f32(a + dx / 2 + (k - 1) * dx);
+    for (int k = 0; k < kStrips; ++k) {
+        const float P = f32(dx * (q1 + (k + 1 - 0.5) * dq));
+        m_at[k] = f32(a + dx / 2 + k * dx);
         // A strip of a line load without width carries nothing.
-        s.empty = P == 0.0F;
-        const auto side = [this, P](double c) {
+        m_empty[k] = P == 0.0F;
+        const auto side = [this, P, k](Sides& s, double c) {
             const double r = c / m_L;
-            return Side{static_cast<double>(P) * c, 3 - 6 * r + 3 * r * r, 1 - 3 * r * r + 2 * r * r * r, c};
+            s.Pc[k] = static_cast<double>(P) * c;
+            s.A[k] = 3 - 6 * r + 3 * r * r;
+            s.B[k] = 1 - 3 * r * r + 2 * r * r * r;
+            s.c[k] = c;
         };
-        s.left = side(s.at);
-        s.right = side(f32(m_L - s.at));
+        side(m_left, m_at[k]);
+        side(m_right, f32(m_L - m_at[k]));
+        m_in_order = m_in_order && !std::isnan(m_at[k]) && (k == 0 || m_at[k - 1] <= m_at[k]);
     }
 }
 
 double LineLoadDeflection::at(float x) const
 {
-    double sum = 0;
-    for (const Strip& s : m_strips) {
-        if (s.empty) {
-            continue;
+    // Each strip's share, left or right of it as the point stands, worked out
+    // run by run so that the divisions go in pairs; then summed in the
+    // strips' order, as one strip after the other would sum them.
+    double share[kStrips];
+    const auto shares = [&share](const Sides& s, int from, int to, double u) {
+        for (int k = from; k < to; ++k) {
+            share[k] = s.Pc[k] * u * u / 6 * (s.A[k] - s.B[k] * u / s.c[k]);
         }
-        sum += x > s.at ? s.right.at(m_L - x) : s.left.at(x);
+    };
+    const double right_x = m_L - x;
+    if (m_in_order) {
+        int k = 0;
+        while (k < kStrips && x > m_at[k]) {
+            ++k;
+        }
+        shares(m_right, 0, k, right_x);
+        shares(m_left, k, kStrips, x);
+    } else {
+        for (int k = 0; k < kStrips; ++k) {
+            x > m_at[k] ? shares(m_right, k, k + 1, right_x) : shares(m_left, k, k + 1, x);
+        }
+    }
+    double sum = 0;
+    for (int k = 0; k < kStrips; ++k) {
+        if (!m_empty[k]) {
+            sum += share[k];
+        }
     }
     return sum;
 }

@@ -78,19 +78,19 @@ public:
     static constexpr int kStrips = 20;
 
 private:
-    // One strip as a point load: the deflection left of it, and right of it
-    // read from the other end, each P c x^2 / 6 (A - B x / c).
-    struct Side {
-        double Pc = 0, A = 0, B = 0, c = 0;
-        double at(double x) const { return Pc * x * x / 6 * (A - B * x / c); }
-    };
-    struct Strip {
-        bool empty = true; // no width, no load
-        float at = 0;
-        Side left, right;
+    // The strips as point loads, a table a factor: the deflection left of a
+    // strip, and right of it read from the other end, each
+    // P c x^2 / 6 (A - B x / c).
+    struct Sides {
+        double Pc[kStrips] = {}, A[kStrips] = {}, B[kStrips] = {}, c[kStrips] = {};
     };
     double m_L;
-    Strip m_strips[kStrips];
+    float m_at[kStrips] = {};
+    bool m_empty[kStrips] = {}; // no width, no load
+    Sides m_left, m_right;
+    // The strips stand in order along the span: a point is right of a first
+    // run of them and left of the rest.
+    bool m_in_order = true;
 };
 
 double moment_load_deflection(float L, float x, float M, float a);

@@ -4,18 +4,9 @@
 
 namespace kvelder {
 
-void update_envelope(float c, float& max, float& min)
-{
-    if (c > 0) {
-        if (max < c) {
-            max = c;
-        }
-    } else if (std::fabs(c) > std::fabs(min)) {
-        min = c;
-    }
-}
+namespace {
 
-void copy_into_envelope(float c, float& max, float& min)
+inline void copy_rule(float c, float& max, float& min)
 {
     if (c > 0) {
         max = c;
@@ -24,7 +15,8 @@ void copy_into_envelope(float c, float& max, float& min)
     }
 }
 
-namespace {
+constexpr auto kUpdate = [](float c, float& max, float& min) { update_envelope(c, max, min); };
+constexpr auto kCopy = [](float c, float& max, float& min) { copy_rule(c, max, min); };
 
 template <typename Rule> void span_fields(Model& m, int i, Rule rule, bool forces)
 {
@@ -48,30 +40,35 @@ template <typename Rule> void support_fields(Model& m, Rule rule)
 
 } // namespace
 
+void copy_into_envelope(float c, float& max, float& min)
+{
+    copy_rule(c, max, min);
+}
+
 void deflection_envelope(Model& m, int i)
 {
-    span_fields(m, i, update_envelope, false);
+    span_fields(m, i, kUpdate, false);
 }
 void force_envelope(Model& m, int i)
 {
-    span_fields(m, i, update_envelope, true);
+    span_fields(m, i, kUpdate, true);
 }
 void reaction_envelope(Model& m)
 {
-    support_fields(m, update_envelope);
+    support_fields(m, kUpdate);
 }
 
 void copy_deflection_envelope(Model& m, int i)
 {
-    span_fields(m, i, copy_into_envelope, false);
+    span_fields(m, i, kCopy, false);
 }
 void copy_force_envelope(Model& m, int i)
 {
-    span_fields(m, i, copy_into_envelope, true);
+    span_fields(m, i, kCopy, true);
 }
 void copy_reaction_envelope(Model& m)
 {
-    support_fields(m, copy_into_envelope);
+    support_fields(m, kCopy);
 }
 
 } // namespace kvelder

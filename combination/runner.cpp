@@ -85,6 +85,21 @@ struct SolvedCase {
     Table<float, kMaxNodes> react_M;
 };
 
+// The current combination, kept to start patterns from.
+struct Combination {
+    explicit Combination(const Model& m)
+        : C_V(m.C_V), C_M(m.C_M), C_W(m.C_W), C_Winst(m.C_Winst), C_R(m.C_R), C_MR(m.C_MR)
+    {
+    }
+    void restore(Model& m) const
+    {
+        m.C_V = C_V, m.C_M = C_M, m.C_W = C_W, m.C_Winst = C_Winst, m.C_R = C_R, m.C_MR = C_MR;
+    }
+
+    Table2<float, kMaxSpans, kMaxPoints> C_V, C_M, C_W, C_Winst;
+    Table<float, kMaxNodes> C_R, C_MR;
+};
+
 // What Q1 on one span puts into a load case: its rows of the held-member
 // tables, which no other span touches, and the moments it sets on nodes.
 struct SpanLoads {
@@ -225,16 +240,22 @@ void run_patterns(Model& m, ScratchFiles& trace)
     const auto Q2_case = std::make_unique<SolvedCase>(m);
     const std::vector<SpanLoads> Q1_spans = Q1_by_span(m);
 
+    // Pattern 1 is G and Q2 alone.
     trace.write_geometry(m);
-    for (int p = 1; p <= m.npatterns; ++p) {
-        clear_combination(m);
-        fold_case(m, G_case->view(), LoadCase::Egen);
-        fold_case(m, Q2_case->view(), LoadCase::Nytt_2);
-        if (p > 1) {
-            put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
-            solve_current_case(m, shapes);
-            fold_case(m, current_case(m), LoadCase::Nytt);
-        }
+    clear_combination(m);
+    fold_case(m, G_case->view(), LoadCase::Egen);
+    fold_case(m, Q2_case->view(), LoadCase::Nytt_2);
+    trace.write_results(m, 1);
+
+    // Every further pattern folds G and Q2 into the same combination, which
+    // the envelopes have taken in already and would take in to no change: it
+    // starts from that combination and folds in its Q1.
+    const auto G_Q2 = std::make_unique<Combination>(m);
+    for (int p = 2; p <= m.npatterns; ++p) {
+        G_Q2->restore(m);
+        put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
+        solve_current_case(m, shapes);
+        fold_case(m, current_case(m), LoadCase::Nytt);
         // The combination of the pattern, all of its cases folded in.
         trace.write_results(m, p);
     }
