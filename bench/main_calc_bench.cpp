@@ -1,6 +1,7 @@
-// The whole recalculation, as the engineer waits for it after every box.
-// Targets on the development machine, release build: the example beam in
-// 0.1 ms or less, the worst case in 2 ms or less.
+// The whole recalculation, as the engineer waits for it after every box, with
+// the loads read from the dialogs' texts and the trace kept open, as in the
+// window. Targets on the development machine, release build: the example beam
+// in 10 us or less, the worst case in 0.2 ms or less.
 
 #include "bench/beams.h"
 #include "recalc/main_calc.h"
@@ -43,6 +44,10 @@ void ExampleBeam(benchmark::State& state)
 void WorstCase(benchmark::State& state)
 {
     auto m = worst_case();
+    if (!m) {
+        state.SkipWithError("no worst case");
+        return;
+    }
     run(state, *m);
 }
 

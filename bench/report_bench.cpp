@@ -19,6 +19,10 @@ using namespace kvelder;
 void DetailedReportPdf(benchmark::State& state)
 {
     auto m = bench::worst_case();
+    if (!m) {
+        state.SkipWithError("no worst case");
+        return;
+    }
     RecordingScreen screen;
     MainCalc(*m, screen);
     if (!screen.messages.empty() || !screen.load_failures.empty()) {

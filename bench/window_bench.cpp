@@ -24,6 +24,10 @@ using namespace kvelder;
 void SpanEditToRepaint(benchmark::State& state)
 {
     auto m = bench::worst_case();
+    if (!m) {
+        state.SkipWithError("no worst case");
+        return;
+    }
     LoadDialogs dialogs = load_dialogs(*m);
     RecentFilesInMemory recent;
     UnattendedPrompter prompter;
