@@ -83,7 +83,7 @@ void fill_geometry(const Model& m, ByteRecord& record)
 
 } // namespace scratch
 
-ScratchFiles::ScratchFiles(std::filesystem::path folder) : m_folder(std::move(folder)) {}
+ScratchFiles::ScratchFiles(std::filesystem::path folder) : m_folder(std::move(folder)), m_traced(true) {}
 
 bool ScratchFiles::open(std::fstream& file, const char* name)
 {
@@ -107,7 +107,7 @@ bool ScratchFiles::open(std::fstream& file, const char* name)
 
 void ScratchFiles::write_geometry(const Model& m)
 {
-    if (m_geometry_failed || !open(m_geometry, scratch::kGeometryFile)) {
+    if (!m_traced || m_geometry_failed || !open(m_geometry, scratch::kGeometryFile)) {
         m_geometry_failed = true;
         return;
     }
@@ -126,7 +126,7 @@ void ScratchFiles::write_geometry(const Model& m)
 
 void ScratchFiles::write_results(const Model& m, int pattern)
 {
-    if (pattern < 1) {
+    if (!m_traced || pattern < 1) {
         return;
     }
     const auto p = static_cast<std::size_t>(pattern);

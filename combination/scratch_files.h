@@ -74,6 +74,9 @@ void fill_geometry(const Model& m, ByteRecord& record);
 class ScratchFiles {
 public:
     explicit ScratchFiles(std::filesystem::path folder);
+    // No trace at all: for the trial runs that are no recalculation of the
+    // engineer's beam, which must not overwrite its trace.
+    ScratchFiles() = default;
     ScratchFiles(const ScratchFiles&) = delete;
     ScratchFiles& operator=(const ScratchFiles&) = delete;
 
@@ -86,6 +89,7 @@ private:
     bool open(std::fstream& file, const char* name);
 
     std::filesystem::path m_folder;
+    bool m_traced = false;
     std::fstream m_results;
     std::fstream m_geometry;
     bool m_results_failed = false;

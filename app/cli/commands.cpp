@@ -8,6 +8,7 @@
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "recalc/main_calc.h"
+#include "recalc/section_search.h"
 #include "report/report_pdf.h"
 #include "ui/input_checks.h"
 #include "ui/load_checks.h"
@@ -347,6 +348,52 @@ int run_bench(const Options& o, std::ostream& out, std::ostream& err)
     });
 }
 
+namespace {
+
+nlohmann::ordered_json candidate_json(const SectionCandidate& c)
+{
+    nlohmann::ordered_json j{{"profile", c.profile}, {"prof_type_index", c.prof_type_index}};
+    j["prof_index"] = c.prof_index >= 0 ? nlohmann::ordered_json(c.prof_index) : nlohmann::ordered_json();
+    j["b"] = c.b;
+    j["h"] = c.h;
+    j["uf_max"] = c.uf_max;
+    j["governing"] = check_name(c.governing);
+    return j;
+}
+
+} // namespace
+
+int run_size(const Options& o, std::ostream& out, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto [m, input, run] = run_input(o, err);
+        if (!run.calculated) {
+            return report_failure(run.messages, err);
+        }
+        const SectionSearch found =
+            find_lightest_section(*m, input.dialogs ? &*input.dialogs : nullptr, o.height_step);
+        if (found.refused) {
+            err << "kvelder-cli: " << *found.refused << '\n';
+            return kCheckFailed;
+        }
+        if (found.candidates.empty()) {
+            err << "kvelder-cli: no section of the family could be calculated\n";
+            return kCheckFailed;
+        }
+        nlohmann::ordered_json j{{"passes", found.passes()}};
+        const nlohmann::ordered_json lightest = candidate_json(found.candidates.front());
+        for (const auto& [key, value] : lightest.items()) {
+            j[key] = value;
+        }
+        j["candidates"] = nlohmann::ordered_json::array();
+        for (std::size_t k = 1; k < found.candidates.size(); ++k) {
+            j["candidates"].push_back(candidate_json(found.candidates[k]));
+        }
+        out << j.dump(2) << '\n';
+        return kCalculated;
+    });
+}
+
 int run_cli(const std::vector<std::string>& args, const fs::path& installed_data_dir, std::ostream& out,
             std::ostream& err)
 {
@@ -372,6 +419,9 @@ int run_cli(const std::vector<std::string>& args, const fs::path& installed_data
     }
     if (o.command == "report") {
         return run_report(o, out, err);
+    }
+    if (o.command == "size") {
+        return run_size(o, out, err);
     }
     return o.command == "calc" ? run_calc(o, out, err) : run_bench(o, out, err);
 }

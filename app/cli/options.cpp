@@ -12,10 +12,12 @@ const char* const kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--
                            "       kvelder-cli plot [INPUT] -o DIR [--size WxH] [--data-dir DIR]\n"
                            "       kvelder-cli report [INPUT] -o FILE.pdf [--detailed] [--data-dir DIR]\n"
                            "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
+                           "       kvelder-cli size [INPUT] [--step MM] [--data-dir DIR]\n"
                            "INPUT is a beam description (.json) or a project file (.kvel); without it the\n"
                            "example beam is used. save writes the beam as a project file, dump writes a\n"
                            "project file as a beam description, plot draws the six pictures of the window\n"
-                           "as PNG files, report writes the printed report as a PDF.\n";
+                           "as PNG files, report writes the printed report as a PDF, size finds the\n"
+                           "lightest section of the family that carries the beam.\n";
 
 namespace {
 
@@ -94,7 +96,7 @@ Options parse_or_stop(const std::vector<std::string>& args)
     Options o;
     o.command = args[0];
     if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "plot" &&
-        o.command != "report" && o.command != "bench") {
+        o.command != "report" && o.command != "bench" && o.command != "size") {
         throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
     }
     for (std::size_t k = 1; k < args.size(); ++k) {
@@ -125,6 +127,18 @@ Options parse_or_stop(const std::vector<std::string>& args)
                 }
             } catch (const std::logic_error&) {
                 throw Stop{kUsageError, "-n needs a whole number of runs above 0, not \"" + n + "\""};
+            }
+        } else if (a == "--step" && o.command == "size") {
+            const std::string& mm = value();
+            try {
+                std::size_t used = 0;
+                o.height_step = std::stof(mm, &used);
+                if (used != mm.size() || !(o.height_step >= 1 && o.height_step <= 1000)) {
+                    throw std::invalid_argument(mm);
+                }
+            } catch (const std::logic_error&) {
+                throw Stop{kUsageError,
+                           "--step needs the step of the heights in mm, 1 to 1000, not \"" + mm + "\""};
             }
         } else if (!a.empty() && a[0] == '-') {
             throw Stop{kUsageError, "unknown option \"" + a + "\" for " + o.command};

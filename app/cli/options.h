@@ -23,7 +23,7 @@ struct Stop {
 };
 
 struct Options {
-    std::string command; // "calc", "save", "dump", "plot", "report" or "bench"
+    std::string command; // "calc", "save", "dump", "plot", "report", "bench" or "size"
     std::optional<std::filesystem::path> input;
     std::optional<std::filesystem::path>
         output; // the project file of "save", the folder of "plot", the PDF of "report"
@@ -33,6 +33,7 @@ struct Options {
     bool detailed = false; // "report" with the detailed pages
     int runs = 1000;
     int width = 800, height = 300; // pixels of each picture of "plot"
+    float height_step = 5;         // mm between the heights "size" tries for a free rectangle
 };
 
 // The kinds of input the tool reads, by the extension of the file.

@@ -471,3 +471,87 @@ TEST(CliBinary, CalculatesTheExampleAndRefusesAnUnknownCommand)
 
 } // namespace
 } // namespace kvelder::test
+
+namespace kvelder::test {
+namespace {
+
+// The largest usage factor that calc gives a beam, and its section's area.
+struct Usage {
+    double uf = 0;
+    double area = 0;
+    double h = 0;
+};
+
+Usage usage_of(const std::string& beam)
+{
+    const CliRun r = run({"calc", beam});
+    EXPECT_EQ(r.exit, 0) << r.err;
+    const json j = json::parse(r.out);
+    Usage u{0, j["section"]["b"].get<double>() * j["section"]["h"].get<double>(), j["section"]["h"]};
+    for (const json& span : j["checks"]) {
+        for (const char* key : {"Uf_mom", "Uf_tau", "Uf_ltb"}) {
+            if (!span[key].is_null()) {
+                u.uf = std::max(u.uf, span[key].get<double>());
+            }
+        }
+    }
+    for (const json& node : j["bearing"]) {
+        if (node["kind"] == "R") {
+            u.uf = std::max(u.uf, node["Uf_c90"].get<double>());
+        }
+    }
+    return u;
+}
+
+// The lightest profile of the family that carries the beam is found from the
+// usage factors calc gives every profile; the beam as described is unchanged.
+TEST(CliSize, TheLightestProfileThatPassesAndTheBestWhereNoneDoes)
+{
+    const std::string light = R"("bearing_length": [150, 300, 150], "vipping_off": false,
+        "G": {"uni": [[1, 0.5], [2, 0.5]]}, "Q1": {"uni": [[1, 1.0], [2, 1.0]]})";
+    for (const auto& [family, loads] : {std::pair{0, light}, {1, std::string(R"("vipping_off": false)")}}) {
+        const std::string beam = "{\"prof_type_index\": " + std::to_string(family) + ", " + loads + "}";
+        const CliRun r = run({"size", description("size.json", beam)});
+        ASSERT_EQ(r.exit, 0) << r.err;
+        const json found = json::parse(r.out);
+
+        // Every profile of the family, through calc.
+        std::vector<Usage> usages;
+        for (int k = 0;; ++k) {
+            const std::string one = "{\"prof_type_index\": " + std::to_string(family) +
+                                    ", \"prof_index\": " + std::to_string(k) + ", " + loads + "}";
+            const CliRun c = run({"calc", description("profile.json", one)});
+            if (c.exit == 2) {
+                break; // past the end of the list
+            }
+            usages.push_back(usage_of(description("profile.json", one)));
+        }
+        ASSERT_GT(usages.size(), 10U);
+        const auto lighter = [](const Usage& a, const Usage& b) {
+            return a.area != b.area ? a.area < b.area : a.h < b.h;
+        };
+        const int index = found["prof_index"];
+        const Usage chosen = usages.at(static_cast<std::size_t>(index));
+        EXPECT_NEAR(found["uf_max"].get<double>(), chosen.uf, 1e-6);
+        if (found["passes"]) {
+            EXPECT_LE(chosen.uf, 1.0);
+            for (const Usage& u : usages) {
+                EXPECT_TRUE(u.uf > 1.0 || !lighter(u, chosen)) << u.area << " passes and is lighter";
+            }
+            EXPECT_EQ(found["candidates"].size(), 2U);
+        } else {
+            for (const Usage& u : usages) {
+                EXPECT_GE(u.uf, chosen.uf - 1e-6);
+            }
+        }
+        EXPECT_EQ(found["passes"], family == 0) << "family " << family;
+    }
+
+    // A circle has no rectangle to try.
+    const CliRun circle = run({"size", description("circle.json", R"({"section_form": "Tube"})")});
+    EXPECT_EQ(circle.exit, 1);
+    EXPECT_NE(circle.err.find("circle"), std::string::npos);
+}
+
+} // namespace
+} // namespace kvelder::test

@@ -1,0 +1,226 @@
+#include "recalc/section_search.h"
+
+#include "combination/scratch_files.h"
+#include "design/section_checks.h"
+#include "files/code_page.h"
+#include "files/number_format.h"
+#include "recalc/calc_screen.h"
+#include "recalc/main_calc.h"
+#include "ui/edits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <set>
+
+namespace kvelder {
+namespace {
+
+// The largest usage factor of a calculated beam and its check; a factor that
+// is no number counts as the worst of all.
+void worst_usage(const Model& m, SectionCandidate& c)
+{
+    c.uf_max = -std::numeric_limits<float>::infinity();
+    const auto consider = [&c](float uf, GoverningCheck check) {
+        const float u = std::isnan(uf) ? std::numeric_limits<float>::infinity() : uf;
+        if (u > c.uf_max) {
+            c.uf_max = u, c.governing = check;
+        }
+    };
+    const bool rectangle = m.section_form == "Firk";
+    for (int i = 1; i <= m.nf; ++i) {
+        consider(m.Uf_mom(i), GoverningCheck::Bending);
+        consider(m.Uf_tau(i), GoverningCheck::Shear);
+        if (m.vipping_off == 0 && rectangle) {
+            consider(m.Uf_ltb(i), GoverningCheck::Buckling);
+        }
+    }
+    for (int node = 1; rectangle && node <= m.nnodes; ++node) {
+        if (bearing_kind(m, node) == kSimple) {
+            consider(m.Uf_c90(node), GoverningCheck::Bearing);
+        }
+    }
+}
+
+// One beam recalculated again and again with another section, without a
+// trace, so that the engineer's own trace stays as the last real run left it.
+class Trials {
+public:
+    Trials(const Model& m, const LoadDialogs* dialogs)
+        : m_beam(std::make_unique<Model>(m)), m_dialogs(dialogs ? std::optional(*dialogs) : std::nullopt)
+    {
+    }
+
+    // The first message of a recalculation of the beam as it stands.
+    std::optional<std::string> failure()
+    {
+        RecordingScreen screen;
+        run(screen);
+        if (!screen.messages.empty()) {
+            return screen.messages.front().text;
+        }
+        if (!screen.load_failures.empty()) {
+            return std::string("a load row fails its check");
+        }
+        return std::nullopt;
+    }
+
+    // The section applied by `apply`, calculated; none when the beam then
+    // fails a check.
+    template <typename Apply> std::optional<SectionCandidate> trial(Apply&& apply)
+    {
+        apply(*m_beam);
+        RecordingScreen screen;
+        run(screen);
+        if (!screen.messages.empty() || !screen.load_failures.empty()) {
+            return std::nullopt;
+        }
+        SectionCandidate c;
+        c.prof_type_index = m_beam->prof_type_index;
+        c.b = m_beam->section_b;
+        c.h = m_beam->section_h;
+        worst_usage(*m_beam, c);
+        return c;
+    }
+
+private:
+    void run(RecordingScreen& screen)
+    {
+        if (m_dialogs) {
+            MainCalc(*m_beam, *m_dialogs, screen, m_no_trace);
+        } else {
+            MainCalc(*m_beam, screen, m_no_trace);
+        }
+    }
+
+    std::unique_ptr<Model> m_beam;
+    std::optional<LoadDialogs> m_dialogs;
+    ScratchFiles m_no_trace;
+};
+
+bool lighter(const SectionCandidate& a, const SectionCandidate& b)
+{
+    const float area_a = a.b * a.h;
+    const float area_b = b.b * b.h;
+    return area_a != area_b ? area_a < area_b : a.h < b.h;
+}
+
+// The three to show: the lightest that pass, or the closest to passing.
+std::vector<SectionCandidate> ranked(std::vector<SectionCandidate> tried)
+{
+    std::vector<SectionCandidate> passing;
+    std::copy_if(tried.begin(), tried.end(), std::back_inserter(passing),
+                 [](const SectionCandidate& c) { return c.passes(); });
+    if (!passing.empty()) {
+        std::stable_sort(passing.begin(), passing.end(), lighter);
+        tried = std::move(passing);
+    } else {
+        std::stable_sort(tried.begin(), tried.end(),
+                         [](const SectionCandidate& a, const SectionCandidate& b) {
+                             return a.uf_max != b.uf_max ? a.uf_max < b.uf_max : lighter(a, b);
+                         });
+    }
+    tried.resize(std::min<std::size_t>(tried.size(), 3));
+    return tried;
+}
+
+std::string rectangle_name(float b, float h)
+{
+    return format_number(b, "0") + "x" + format_number(h, "0");
+}
+
+} // namespace
+
+const char* check_name(GoverningCheck check)
+{
+    switch (check) {
+    case GoverningCheck::Bending:
+        return "bending";
+    case GoverningCheck::Shear:
+        return "shear";
+    case GoverningCheck::Buckling:
+        return "buckling";
+    case GoverningCheck::Bearing:
+        return "bearing";
+    }
+    return "";
+}
+
+SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, float height_step)
+{
+    SectionSearch found;
+    if (m.section_form == "Tube") {
+        found.refused = "the section is a circle; the search tries rectangles";
+        return found;
+    }
+    if (!(height_step >= 1)) {
+        found.refused = "the step of the heights is less than 1 mm";
+        return found;
+    }
+    Trials trials(m, dialogs);
+    if (auto failure = trials.failure()) {
+        found.refused = "the beam fails its checks as it stands: " + *failure;
+        return found;
+    }
+    const std::vector<ProfileRow>& rows = m.profile_families.of(m.prof_type_index);
+    std::vector<SectionCandidate> tried;
+
+    // Kerto and k_bjelke beams are free rectangles, whatever the option says.
+    const bool catalogue = is_true(m.standard_section) && section_option_enabled(m, SectionOption::Standard);
+    if (catalogue) {
+        for (int k = 0; k < static_cast<int>(rows.size()); ++k) {
+            if (auto c = trials.trial([k](Model& beam) { choose_profile(beam, k); })) {
+                c->prof_index = k;
+                c->profile = as_utf8(rows[static_cast<std::size_t>(k)].name);
+                tried.push_back(*c);
+            }
+        }
+        found.candidates = ranked(std::move(tried));
+        return found;
+    }
+
+    // A free rectangle: each width of the catalogue, its heights from the least
+    // up, until three pass or a height would be heavier than the third lightest.
+    std::set<float> widths;
+    float least = std::numeric_limits<float>::max();
+    float greatest = 0;
+    for (const ProfileRow& row : rows) {
+        if (row.b > 0 && row.h > 0) {
+            widths.insert(row.b);
+            least = std::min(least, row.h);
+            greatest = std::max(greatest, row.h);
+        }
+    }
+    std::vector<float> third_lightest; // areas of the passing sections so far
+    for (const float b : widths) {
+        int passed = 0;
+        for (int k = 0; passed < 3; ++k) {
+            const float h = least + static_cast<float>(k) * height_step;
+            if (h > greatest) {
+                break;
+            }
+            if (third_lightest.size() >= 3 && b * h > third_lightest[2]) {
+                break;
+            }
+            auto c = trials.trial([b, h](Model& beam) {
+                set_section_size(beam, Box::Width, b);
+                set_section_size(beam, Box::Height, h);
+            });
+            if (!c) {
+                continue;
+            }
+            c->profile = rectangle_name(b, h);
+            tried.push_back(*c);
+            if (c->passes()) {
+                ++passed;
+                third_lightest.push_back(b * h);
+                std::sort(third_lightest.begin(), third_lightest.end());
+            }
+        }
+    }
+    found.candidates = ranked(std::move(tried));
+    return found;
+}
+
+} // namespace kvelder
