@@ -14,6 +14,7 @@
 #include "gui/prompter.h"
 #include "gui/result_grid_dialog.h"
 #include "gui/result_panel.h"
+#include "gui/section_finder_dialog.h"
 #include "gui/section_forms.h"
 #include "gui/section_panel.h"
 #include "gui/setup_dialog.h"
@@ -25,6 +26,7 @@
 #include "ui/captions.h"
 #include "ui/load_dialog.h"
 #include "ui/messages.h"
+#include "ui/section_finder.h"
 #include "ui/section_forms.h"
 
 #include <QAbstractButton>
@@ -193,6 +195,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     m_classes = new ClassDialog(*this, this);
     auto* detailed = new DetailedResultDialog(*this, *findChild<QWidget*>("frmDimension"), this);
     auto* along = new ResultGridDialog(*this, this);
+    auto* finder = new SectionFinderDialog(*this, this);
     const std::pair<const char*, std::function<void()>> forms[] = {
         {kPropertiesForm, [this, front] { open_section_properties(m_model, front()); }},
         {kBucklingForm, [this, front] { open_buckling_input(*this, front()); }},
@@ -202,6 +205,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         {"frmClass", [this] { m_classes->open_classes(); }},
         {"frm_Kvelder_detailedresult", [detailed] { detailed->open_first_span(); }},
         {"frm_B_grid_mom_Shear_disp_comb", [along] { along->open(); }},
+        {kSectionFinderForm, [finder] { finder->open_search(); }},
     };
     // The box being typed in commits first; one that refuses keeps the focus
     // and no form opens.
@@ -215,7 +219,8 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     for (auto [button, name] : {std::pair{"Cmd_tverrsnitt", kPropertiesForm},
                                 {"Cmd_input_vipping", kBucklingForm},
                                 {"cmd_detres", "frm_Kvelder_detailedresult"},
-                                {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"}}) {
+                                {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"},
+                                {"Cmd_finn_tverrsnitt", kSectionFinderForm}}) {
         connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, name = name] {
             if (!focus_on_refused_box()) {
                 open_form(QString::fromLatin1(name));

@@ -67,6 +67,7 @@ public:
     LoadDialogs& dialogs() override { return m_dialogs; }
     void recalculate() override;
     void refresh() override;
+    void fill_boxes() override { fill(); }
     void blank(Picture picture) override { m_blank.insert(picture); }
     void show_message(const Message& message) override;
     void fail_box(InputBox& box, const std::optional<Message>& message) override;

@@ -71,7 +71,8 @@ SectionPanel::SectionPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_
     dims_grid->addWidget(m_rect, 0, 1);
     dims_grid->addWidget(m_circle, 0, 2);
     m_profile = named<QComboBox>("cboProf", dims);
-    dims_grid->addWidget(m_profile, 1, 0, 1, 2);
+    dims_grid->addWidget(m_profile, 1, 0);
+    dims_grid->addWidget(named<QPushButton>("Cmd_finn_tverrsnitt", dims), 1, 1);
     dims_grid->addWidget(named<QPushButton>("Cmd_tverrsnitt", dims), 1, 2);
     m_b = new InputBox("txt_b1", dims);
     m_h = new InputBox("txt_h1", dims);

@@ -29,6 +29,9 @@ public:
     virtual void recalculate() = 0;
     // Refreshes the panels from the beam without a recalculation.
     virtual void refresh() = 0;
+    // Puts the beam's values into the window's boxes and lists, as after
+    // opening a project; the panels follow at the next refresh.
+    virtual void fill_boxes() = 0;
     // Leaves a result picture blank until the next run that gets past its gate.
     virtual void blank(Picture picture) = 0;
     virtual void show_message(const Message& message) = 0;

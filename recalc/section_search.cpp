@@ -132,35 +132,21 @@ std::string rectangle_name(float b, float h)
 
 } // namespace
 
-const char* check_name(GoverningCheck check)
-{
-    switch (check) {
-    case GoverningCheck::Bending:
-        return "bending";
-    case GoverningCheck::Shear:
-        return "shear";
-    case GoverningCheck::Buckling:
-        return "buckling";
-    case GoverningCheck::Bearing:
-        return "bearing";
-    }
-    return "";
-}
-
 SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, float height_step)
 {
     SectionSearch found;
     if (m.section_form == "Tube") {
-        found.refused = "the section is a circle; the search tries rectangles";
+        found.refused = SearchRefusal::Circle;
         return found;
     }
     if (!(height_step >= 1)) {
-        found.refused = "the step of the heights is less than 1 mm";
+        found.refused = SearchRefusal::StepTooSmall;
         return found;
     }
     Trials trials(m, dialogs);
     if (auto failure = trials.failure()) {
-        found.refused = "the beam fails its checks as it stands: " + *failure;
+        found.refused = SearchRefusal::BeamFails;
+        found.detail = *failure;
         return found;
     }
     const std::vector<ProfileRow>& rows = m.profile_families.of(m.prof_type_index);

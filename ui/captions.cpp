@@ -53,6 +53,7 @@ constexpr Pair kWindow[] = {
     {"optRect", "Rect.", "Rekt."},
     {"optCircle", "Circ", "Sirk"},
     {"Cmd_tverrsnitt", "Section data", "Tverrsnitts data"},
+    {"Cmd_finn_tverrsnitt", "Find section", "Finn tverrsnitt"},
     {"Fra_Fak", "Classes/factors", "Klasser/faktorer"},
     {"Lbl_klima_1", "Service class=", "Klima klasse="},
     {"Lbl_lastvarig1", "Load-duration=", "Last varighet="},

@@ -373,7 +373,11 @@ int run_size(const Options& o, std::ostream& out, std::ostream& err)
         const SectionSearch found =
             find_lightest_section(*m, input.dialogs ? &*input.dialogs : nullptr, o.height_step);
         if (found.refused) {
-            err << "kvelder-cli: " << *found.refused << '\n';
+            err << "kvelder-cli: "
+                << (*found.refused == SearchRefusal::Circle     ? "the section is a circle; size tries rectangles"
+                    : *found.refused == SearchRefusal::BeamFails ? "the beam fails its checks: " + found.detail
+                                                                 : std::string("the step of the heights is below 1 mm"))
+                << '\n';
             return kCheckFailed;
         }
         if (found.candidates.empty()) {

@@ -4,6 +4,10 @@
 #include "recalc/main_calc.h"
 #include "tests/gui/window_flow.h"
 
+#include <QDialog>
+#include <QListWidget>
+#include <QPushButton>
+
 namespace kvelder::test {
 namespace {
 
@@ -148,6 +152,47 @@ TEST_F(MainWindowFlow, TheTableAndTheAboutBoxSpeakTheBeamsLanguage)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(front(), nullptr);
     }
+}
+
+} // namespace
+} // namespace kvelder::test
+
+namespace kvelder::test {
+namespace {
+
+TEST_F(MainWindowFlow, FindSectionOffersTheLightestAndChangesTheBeamOnlyWhenOneIsChosen)
+{
+    // Light loads on timber, whose smaller profiles carry them.
+    auto beam = example_beam();
+    choose_family(*beam, 0);
+    beam->G = LoadGroup{}, beam->Q1 = LoadGroup{};
+    add_uniform(beam->G, 1, 0.5F), add_uniform(beam->G, 2, 0.5F);
+    add_uniform(beam->Q1, 1, 1.0F), add_uniform(beam->Q1, 2, 1.0F);
+    for (int node = 1; node <= 3; ++node) {
+        beam->bearing_length(node) = 300;
+    }
+    start(write("light.kvel", *beam).toStdString());
+    const int profile = model->prof_index;
+    const int runs = window->runs();
+
+    click("Cmd_finn_tverrsnitt");
+    auto* finder = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(finder, nullptr);
+    EXPECT_EQ(finder->objectName(), "frm_Kvelder_finn_tverrsnitt");
+    EXPECT_EQ(finder->windowTitle(), "Find section");
+    auto* list = finder->findChild<QListWidget*>("Lst_kandidater");
+    ASSERT_GE(list->count(), 1);
+    EXPECT_TRUE(finder->findChild<QLabel*>("Lbl_kandidater")->text().startsWith("The lightest section"));
+    // Searching tried the family without touching the beam or running it.
+    EXPECT_EQ(model->prof_index, profile);
+    EXPECT_EQ(window->runs(), runs);
+
+    QTest::mouseClick(finder->findChild<QPushButton*>("Cmd_velg"), Qt::LeftButton);
+    EXPECT_FALSE(finder->isVisible());
+    EXPECT_NE(model->prof_index, profile);
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_TRUE(list->item(0)->text().startsWith(get<QComboBox>("cboProf")->currentText()));
+    EXPECT_EQ(get<InputBox>("txt_b1")->text(), QString::number(model->section_b));
 }
 
 } // namespace
