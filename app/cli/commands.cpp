@@ -5,11 +5,14 @@
 #include "app/cli/plot_command.h"
 #include "app/cli/result_json.h"
 #include "app/cli/result_text.h"
+#include "design/factors.h"
+#include "files/code_page.h"
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "recalc/main_calc.h"
 #include "recalc/section_search.h"
 #include "report/report_pdf.h"
+#include "ui/edits.h"
 #include "ui/input_checks.h"
 #include "ui/load_checks.h"
 #include "ui/messages.h"
@@ -374,9 +377,10 @@ int run_size(const Options& o, std::ostream& out, std::ostream& err)
             find_lightest_section(*m, input.dialogs ? &*input.dialogs : nullptr, o.height_step);
         if (found.refused) {
             err << "kvelder-cli: "
-                << (*found.refused == SearchRefusal::Circle     ? "the section is a circle; size tries rectangles"
-                    : *found.refused == SearchRefusal::BeamFails ? "the beam fails its checks: " + found.detail
-                                                                 : std::string("the step of the heights is below 1 mm"))
+                << (*found.refused == SearchRefusal::Circle ? "the section is a circle; size tries rectangles"
+                    : *found.refused == SearchRefusal::BeamFails
+                        ? "the beam fails its checks: " + found.detail
+                        : std::string("the step of the heights is below 1 mm"))
                 << '\n';
             return kCheckFailed;
         }
@@ -394,6 +398,49 @@ int run_size(const Options& o, std::ostream& out, std::ostream& err)
             j["candidates"].push_back(candidate_json(found.candidates[k]));
         }
         out << j.dump(2) << '\n';
+        return kCalculated;
+    });
+}
+
+int run_annexes(const Options& o, std::ostream& out, std::ostream& err)
+{
+    return guarded(err, [&] {
+        auto [m, input, run] = run_input(o, err);
+        if (!run.calculated) {
+            return report_failure(run.messages, err);
+        }
+        // Each annex on a copy of the beam, with no trace: the beam as given and
+        // its trace stay as its own run left them.
+        nlohmann::ordered_json list = nlohmann::ordered_json::array();
+        ScratchFiles no_trace;
+        const int last = std::min<int>(m->setup.setup_last_row, FileDatabase::kRows - 1);
+        for (int row = 0; row <= last; ++row) {
+            auto beam = std::make_unique<Model>(*m);
+            choose_annex_row(*beam, row);
+            RecordingScreen screen;
+            if (input.dialogs) {
+                LoadDialogs dialogs = *input.dialogs;
+                MainCalc(*beam, dialogs, screen, no_trace);
+            } else {
+                MainCalc(*beam, screen, no_trace);
+            }
+            nlohmann::ordered_json all = result_json(*beam, screen.messages);
+            // An annex without classes has no Kfi: the field holds what the
+            // annex before it left there, which nothing reads.
+            if (!kfi_of(beam->annex, beam->safety_class)) {
+                all["factors"]["kfi"] = nullptr;
+            }
+            list.push_back({{"annex", beam->annex},
+                            {"setup_row", row},
+                            {"title", as_utf8(beam->annex_title)},
+                            {"messages", all["messages"]},
+                            {"factors", all["factors"]},
+                            {"strengths", all["strengths"]},
+                            {"checks", all["checks"]},
+                            {"supports", all["supports"]},
+                            {"bearing", all["bearing"]}});
+        }
+        out << nlohmann::ordered_json{{"annexes", list}}.dump(2) << '\n';
         return kCalculated;
     });
 }
@@ -426,6 +473,9 @@ int run_cli(const std::vector<std::string>& args, const fs::path& installed_data
     }
     if (o.command == "size") {
         return run_size(o, out, err);
+    }
+    if (o.command == "annexes") {
+        return run_annexes(o, out, err);
     }
     return o.command == "calc" ? run_calc(o, out, err) : run_bench(o, out, err);
 }

@@ -22,5 +22,6 @@ int run_plot(const Options& o, std::ostream& out, std::ostream& err);
 int run_report(const Options& o, std::ostream& out, std::ostream& err);
 int run_bench(const Options& o, std::ostream& out, std::ostream& err);
 int run_size(const Options& o, std::ostream& out, std::ostream& err);
+int run_annexes(const Options& o, std::ostream& out, std::ostream& err);
 
 } // namespace kvelder::cli

@@ -13,11 +13,13 @@ const char* const kUsage = "usage: kvelder-cli calc [INPUT] [--data-dir DIR] [--
                            "       kvelder-cli report [INPUT] -o FILE.pdf [--detailed] [--data-dir DIR]\n"
                            "       kvelder-cli bench [INPUT] [-n N] [--data-dir DIR]\n"
                            "       kvelder-cli size [INPUT] [--step MM] [--data-dir DIR]\n"
+                           "       kvelder-cli annexes [INPUT] [--data-dir DIR]\n"
                            "INPUT is a beam description (.json) or a project file (.kvel); without it the\n"
                            "example beam is used. save writes the beam as a project file, dump writes a\n"
                            "project file as a beam description, plot draws the six pictures of the window\n"
                            "as PNG files, report writes the printed report as a PDF, size finds the\n"
-                           "lightest section of the family that carries the beam.\n";
+                           "lightest section of the family that carries the beam, annexes calculates the\n"
+                           "beam under each national annex of the setup.\n";
 
 namespace {
 
@@ -96,7 +98,7 @@ Options parse_or_stop(const std::vector<std::string>& args)
     Options o;
     o.command = args[0];
     if (o.command != "calc" && o.command != "save" && o.command != "dump" && o.command != "plot" &&
-        o.command != "report" && o.command != "bench" && o.command != "size") {
+        o.command != "report" && o.command != "bench" && o.command != "size" && o.command != "annexes") {
         throw Stop{kUsageError, "unknown command \"" + o.command + "\""};
     }
     for (std::size_t k = 1; k < args.size(); ++k) {

@@ -23,7 +23,7 @@ struct Stop {
 };
 
 struct Options {
-    std::string command; // "calc", "save", "dump", "plot", "report", "bench" or "size"
+    std::string command; // "calc", "save", "dump", "plot", "report", "bench", "size" or "annexes"
     std::optional<std::filesystem::path> input;
     std::optional<std::filesystem::path>
         output; // the project file of "save", the folder of "plot", the PDF of "report"

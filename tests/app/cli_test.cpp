@@ -555,3 +555,34 @@ TEST(CliSize, TheLightestProfileThatPassesAndTheBestWhereNoneDoes)
 
 } // namespace
 } // namespace kvelder::test
+
+namespace kvelder::test {
+namespace {
+
+// Each annex's column is what calc gives with that annex chosen.
+TEST(CliAnnexes, EachColumnIsTheBeamCalculatedUnderItsAnnex)
+{
+    const std::string beam = R"({"ffl_s": [4.0, 6.0], "comb_rule": "610b", "Q2": {"uni": [[2, 1.5]]}})";
+    const CliRun r = run({"annexes", description("annexes.json", beam)});
+    ASSERT_EQ(r.exit, 0) << r.err;
+    const json annexes = json::parse(r.out)["annexes"];
+    ASSERT_EQ(annexes.size(), 3U);
+    for (const json& column : annexes) {
+        const int row = column["setup_row"];
+        json alone = json::parse(beam);
+        alone["setup_row"] = row;
+        const CliRun c = run({"calc", description("annex.json", alone.dump())});
+        ASSERT_EQ(c.exit, 0) << c.err;
+        json calc = json::parse(c.out);
+        if (column["factors"]["kfi"].is_null()) {
+            calc["factors"]["kfi"] = nullptr; // the annex has no classes
+        }
+        for (const char* key : {"factors", "strengths", "checks", "supports", "bearing"}) {
+            EXPECT_EQ(column[key], calc[key]) << "row " << row << ": " << key;
+        }
+    }
+    EXPECT_NE(annexes[0]["checks"], annexes[1]["checks"]);
+}
+
+} // namespace
+} // namespace kvelder::test
