@@ -2,6 +2,7 @@
 
 #include "drawing/pictures.h"
 #include "drawing/plot_surface.h"
+#include "gui/annex_dialog.h"
 #include "gui/buckling_dialog.h"
 #include "gui/captioning.h"
 #include "gui/class_dialog.h"
@@ -23,6 +24,7 @@
 #include "recalc/main_calc.h"
 #include "report/print_report.h"
 #include "report/report_pdf.h"
+#include "ui/annex_table.h"
 #include "ui/captions.h"
 #include "ui/load_dialog.h"
 #include "ui/messages.h"
@@ -206,6 +208,7 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         {"frm_Kvelder_detailedresult", [detailed] { detailed->open_first_span(); }},
         {"frm_B_grid_mom_Shear_disp_comb", [along] { along->open(); }},
         {kSectionFinderForm, [finder] { finder->open_search(); }},
+        {kAnnexForm, [this, front] { open_annexes(*this, front()); }},
     };
     // The box being typed in commits first; one that refuses keeps the focus
     // and no form opens.

@@ -83,7 +83,7 @@ public:
     // Every form the window opens, by its objectName, opened as its button or
     // menu item opens it; false for a name the window has no form of.
     QStringList form_names() const;
-    bool open_form(const QString& name);
+    bool open_form(const QString& name) override;
 
 signals:
     void recalculated();

@@ -6,6 +6,7 @@
 #include "gui/input_box.h"
 #include "gui/named.h"
 #include "gui/workspace.h"
+#include "ui/annex_table.h"
 #include "ui/help_forms.h"
 
 #include <QCheckBox>
@@ -74,6 +75,14 @@ SetupDialog::SetupDialog(Workspace& ws, std::filesystem::path data_folder, QWidg
     column->addLayout(factors);
 
     auto* buttons = new QHBoxLayout;
+    auto* annexes = named<QPushButton>("Cmd_tillegg", this);
+    annexes->setAutoDefault(false);
+    buttons->addWidget(annexes);
+    connect(annexes, &QPushButton::clicked, this, [this] {
+        if (may_act()) {
+            m_ws.open_form(QString::fromLatin1(kAnnexForm));
+        }
+    });
     auto* save_button = named<QPushButton>("Cmd_save", this);
     auto* ok_button = named<QPushButton>("Cmd_ok", this);
     save_button->setAutoDefault(false);

@@ -42,6 +42,9 @@ public:
     virtual void show_load_dialog(LoadGroupId id) = 0;
     // Opens a reference dialog over the window or the dialog in front.
     virtual void show_help(HelpForm form) = 0;
+    // Opens a form of the window by its name, as its button opens it; false
+    // for a name the window has no form of.
+    virtual bool open_form(const QString& name) = 0;
 
     // A box's rule: `apply` stores the box's text in the beam and returns the
     // box's new text and its failure, if any; `focus` is the box that takes

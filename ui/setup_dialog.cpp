@@ -39,6 +39,7 @@ constexpr CaptionPair kCaptions[] = {
     {"Fra_language", "Language", "Spr\u00e5k"},
     {"Fra_set_annex", "EN 1990-1-1 + NA  (Loadfactors)", "EN 1990-1-1 + NA  (Lastfaktorer)"},
     {"Cmd_save", "Save to file", "Lagre p\u00e5 fil"},
+    {"Cmd_tillegg", "Annexes side by side", "Tilleggene side om side"},
     {"Fra_psi_sls", "psi0 / psi2 values", "psi0 / psi2 values"},
     {"Fra_loadcomb", "Factors for Load combinations", "Faktorer for Lastkombinasjoner"},
     {"Fra_sik_class", "Safety class", "Safety class"},

@@ -9,10 +9,10 @@
 #include "files/code_page.h"
 #include "files/start_values.h"
 #include "files/text_lines.h"
+#include "recalc/annex_comparison.h"
 #include "recalc/main_calc.h"
 #include "recalc/section_search.h"
 #include "report/report_pdf.h"
-#include "ui/edits.h"
 #include "ui/input_checks.h"
 #include "ui/load_checks.h"
 #include "ui/messages.h"
@@ -409,30 +409,18 @@ int run_annexes(const Options& o, std::ostream& out, std::ostream& err)
         if (!run.calculated) {
             return report_failure(run.messages, err);
         }
-        // Each annex on a copy of the beam, with no trace: the beam as given and
-        // its trace stay as its own run left them.
         nlohmann::ordered_json list = nlohmann::ordered_json::array();
-        ScratchFiles no_trace;
-        const int last = std::min<int>(m->setup.setup_last_row, FileDatabase::kRows - 1);
-        for (int row = 0; row <= last; ++row) {
-            auto beam = std::make_unique<Model>(*m);
-            choose_annex_row(*beam, row);
-            RecordingScreen screen;
-            if (input.dialogs) {
-                LoadDialogs dialogs = *input.dialogs;
-                MainCalc(*beam, dialogs, screen, no_trace);
-            } else {
-                MainCalc(*beam, screen, no_trace);
-            }
-            nlohmann::ordered_json all = result_json(*beam, screen.messages);
+        for (const AnnexRun& annex : calculate_annexes(*m, input.dialogs ? &*input.dialogs : nullptr)) {
+            const Model& beam = *annex.beam;
+            nlohmann::ordered_json all = result_json(beam, annex.messages);
             // An annex without classes has no Kfi: the field holds what the
             // annex before it left there, which nothing reads.
-            if (!kfi_of(beam->annex, beam->safety_class)) {
+            if (!kfi_of(beam.annex, beam.safety_class)) {
                 all["factors"]["kfi"] = nullptr;
             }
-            list.push_back({{"annex", beam->annex},
-                            {"setup_row", row},
-                            {"title", as_utf8(beam->annex_title)},
+            list.push_back({{"annex", beam.annex},
+                            {"setup_row", annex.setup_row},
+                            {"title", as_utf8(beam.annex_title)},
                             {"messages", all["messages"]},
                             {"factors", all["factors"]},
                             {"strengths", all["strengths"]},

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QPushButton>
+#include <QTableWidget>
 
 namespace kvelder::test {
 namespace {
@@ -148,6 +149,30 @@ TEST_F(SetupDialogFlow, AFactorOfPointOneHoldsTheDialogAndTheTitleBarLeavesAWork
     EXPECT_EQ(type("Txtfelt_0", "7"), 1);
     EXPECT_EQ(model->ffl_s(1), 7.0F);
     EXPECT_EQ(prompter.messages.size(), 1);
+}
+
+// The annexes side by side take the factors as edited, and change nothing.
+TEST_F(SetupDialogFlow, TheAnnexesSideBySideTakeTheEditedFactorsAndLeaveTheBeam)
+{
+    start();
+    open_by_menu("mnusetup", "frmSetup");
+    EXPECT_EQ(type("Txt_gamma_lam", "1.4"), 1);
+    const int runs = window->runs();
+    const std::string annex = model->annex;
+    click("Cmd_tillegg");
+    auto* annexes = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(annexes, nullptr);
+    EXPECT_EQ(annexes->objectName(), "frm_Kvelder_tillegg");
+    EXPECT_EQ(annexes->windowTitle(), "Annexes side by side");
+    auto* grid = annexes->findChild<QTableWidget*>("Grid_tillegg");
+    ASSERT_EQ(grid->columnCount(), 3);
+    EXPECT_EQ(grid->horizontalHeaderItem(0)->text(), "EC5 + NS-EN 1990 NA");
+    EXPECT_EQ(grid->verticalHeaderItem(0)->text(), "gamma_M");
+    EXPECT_EQ(grid->item(0, 0)->text(), "1.40");
+    EXPECT_EQ(grid->item(0, 2)->text(), "1.25");
+    EXPECT_EQ(window->runs(), runs);
+    EXPECT_EQ(model->annex, annex);
+    EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
 }
 
 TEST_F(SetupDialogFlow, TheClassesOfAnLvlBeamLackServiceClassThreeAndKsysHoldsTheDialogAbove1Point2)
