@@ -11,14 +11,7 @@ namespace {
 
 void put_f32(std::byte* record, std::size_t offset, float v)
 {
-    const auto bits = std::bit_cast<std::uint32_t>(v);
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(record + offset, &bits, 4);
-    } else {
-        for (std::size_t b = 0; b < 4; ++b) {
-            record[offset + b] = static_cast<std::byte>((bits >> (8 * b)) & 0xFFU);
-        }
-    }
+    store_le(record + offset, std::bit_cast<std::uint32_t>(v), 4);
 }
 
 // Each cell of a layout, as fn(offset, span, point) for the three tables of

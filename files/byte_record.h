@@ -8,6 +8,18 @@
 
 namespace kvelder {
 
+// The low `width` bytes of `v` at `at`, the lowest first, whatever the machine.
+inline void store_le(std::byte* at, std::uint64_t v, std::size_t width)
+{
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(at, &v, width);
+    } else {
+        for (std::size_t b = 0; b < width; ++b) {
+            at[b] = static_cast<std::byte>((v >> (8 * b)) & 0xFFU);
+        }
+    }
+}
+
 // A fixed-length record of a binary file, little-endian whatever the machine.
 // Every field sits at a stated byte offset; writes past the end are a bug.
 class ByteRecord {
@@ -30,14 +42,7 @@ public:
 private:
     void put(std::size_t offset, std::uint64_t v, std::size_t width)
     {
-        std::byte* at = &m_bytes.at(offset + width - 1) - (width - 1);
-        if constexpr (std::endian::native == std::endian::little) {
-            std::memcpy(at, &v, width); // the low bytes first, as the file wants them
-        } else {
-            for (std::size_t b = 0; b < width; ++b) {
-                at[b] = static_cast<std::byte>((v >> (8 * b)) & 0xFFU);
-            }
-        }
+        store_le(&m_bytes.at(offset + width - 1) - (width - 1), v, width);
     }
     std::uint64_t get(std::size_t offset, std::size_t width) const
     {

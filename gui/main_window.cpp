@@ -188,27 +188,22 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     for (const HelpForm help : kHelpForms) {
         register_form(qs(help_form_name(help)), [this, help] { show_help(help); });
     }
-    // The dialogs over the window, or over the dialog in front, which opened them.
-    const auto front = [this]() -> QWidget* {
-        QWidget* modal = QApplication::activeModalWidget();
-        return modal != nullptr ? modal : this;
-    };
     m_setup = new SetupDialog(*this, m_folders.data, this);
     m_classes = new ClassDialog(*this, this);
     auto* detailed = new DetailedResultDialog(*this, *findChild<QWidget*>("frmDimension"), this);
     auto* along = new ResultGridDialog(*this, this);
     auto* finder = new SectionFinderDialog(*this, this);
     const std::pair<const char*, std::function<void()>> forms[] = {
-        {kPropertiesForm, [this, front] { open_section_properties(m_model, front()); }},
-        {kBucklingForm, [this, front] { open_buckling_input(*this, front()); }},
-        {kLefTableForm, [this, front] { open_lef_table(m_model.language, front()); }},
-        {kAboutForm, [this, front] { open_about(m_model.language, front()); }},
+        {kPropertiesForm, [this] { open_section_properties(m_model, front()); }},
+        {kBucklingForm, [this] { open_buckling_input(*this, front()); }},
+        {kLefTableForm, [this] { open_lef_table(m_model.language, front()); }},
+        {kAboutForm, [this] { open_about(m_model.language, front()); }},
         {"frmSetup", [this] { m_setup->open_setup(); }},
         {"frmClass", [this] { m_classes->open_classes(); }},
         {"frm_Kvelder_detailedresult", [detailed] { detailed->open_first_span(); }},
         {"frm_B_grid_mom_Shear_disp_comb", [along] { along->open(); }},
         {kSectionFinderForm, [finder] { finder->open_search(); }},
-        {kAnnexForm, [this, front] { open_annexes(*this, front()); }},
+        {kAnnexForm, [this] { open_annexes(*this, front()); }},
     };
     // The box being typed in commits first; one that refuses keeps the focus
     // and no form opens.
@@ -415,9 +410,7 @@ void MainWindow::show_message(const Message& message)
 {
     const GuardScope guard(m_guard);
     const QString title = message.title.empty() ? qs(program_title()) : qs(message.title);
-    // Over an open load dialog, the box comes over the dialog.
-    QWidget* parent = QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this;
-    m_prompter.message(parent, title, qs(message.text), false);
+    m_prompter.message(front(), title, qs(message.text), false);
 }
 
 bool MainWindow::run_box_rule(InputBox& box, const std::function<BoxResult()>& apply, bool recalc)
@@ -464,9 +457,14 @@ void MainWindow::show_load_dialog(LoadGroupId id)
 void MainWindow::show_help(HelpForm form)
 {
     if (!focus_on_refused_box() && commit_focused_box()) {
-        QWidget* front = QApplication::activeModalWidget();
-        open_help(form, m_model, front != nullptr ? front : this);
+        open_help(form, m_model, front());
     }
+}
+
+QWidget* MainWindow::front()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : this;
 }
 
 void MainWindow::register_form(const QString& name, std::function<void()> open)

@@ -113,6 +113,9 @@ private:
     void open_recent(int index);
     void open_document(const std::string& name);
     void schedule_redraw();
+    // The dialog in front, over which a message or a form opened from it comes;
+    // the window itself when none is open.
+    QWidget* front();
     // A form that open_form reaches, opened by `open`.
     void register_form(const QString& name, std::function<void()> open);
 
