@@ -13,42 +13,13 @@
 namespace kvelder {
 namespace {
 
-// The picture box of a form. The forms that never had one of their own get
-// one named in the same manner.
-const char* picture_name(HelpForm form)
-{
-    switch (form) {
-    case HelpForm::ServiceClass:
-        return "Pic_txt_klima";
-    case HelpForm::LoadDuration:
-        return "Pic_txt_lastvarighet";
-    case HelpForm::Buckling:
-        return "Pic_txt_vipping";
-    case HelpForm::Supports:
-        return "Pic_txt_opplegg";
-    case HelpForm::LoadCombNorway:
-    case HelpForm::LoadCombEurocode:
-    case HelpForm::LoadCombSweden:
-        return "Pic_txt_loadcomb";
-    case HelpForm::PsiEurocode:
-    case HelpForm::PsiNorway:
-    case HelpForm::PsiSweden:
-        return "Pic_build_cat";
-    case HelpForm::PatternsTotal:
-        return "Pic_loadcomb1";
-    case HelpForm::PatternsQ1:
-        return "Pic_loadcomb2";
-    }
-    return "";
-}
-
 // A picture drawn afresh whenever it is painted, at the size it has then.
 // The beam cannot change under it: its dialog is modal.
 class HelpPicture : public QWidget {
 public:
     HelpPicture(HelpForm form, const Model& m, QWidget* parent) : QWidget(parent), m_form(form), m_model(m)
     {
-        setObjectName(picture_name(form));
+        setObjectName(QString::fromStdString(help_picture_name(form)));
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
 

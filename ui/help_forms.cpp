@@ -2,35 +2,56 @@
 
 namespace kvelder {
 
-std::string help_form_name(HelpForm form)
+namespace {
+
+// Each form with its picture box; the forms that never had one of their own
+// have one named in the same manner.
+struct FormNames {
+    const char* form;
+    const char* picture;
+};
+
+FormNames names_of(HelpForm form)
 {
     switch (form) {
     case HelpForm::ServiceClass:
-        return "frmHelpServiceClass";
+        return {"frmHelpServiceClass", "Pic_txt_klima"};
     case HelpForm::LoadDuration:
-        return "frmHelpLastvarighet";
+        return {"frmHelpLastvarighet", "Pic_txt_lastvarighet"};
     case HelpForm::Buckling:
-        return "frmHelpVipp";
+        return {"frmHelpVipp", "Pic_txt_vipping"};
     case HelpForm::Supports:
-        return "frmHelpOpplegg";
+        return {"frmHelpOpplegg", "Pic_txt_opplegg"};
     case HelpForm::LoadCombNorway:
-        return "frmHelpLoadCombNo";
+        return {"frmHelpLoadCombNo", "Pic_txt_loadcomb"};
     case HelpForm::LoadCombEurocode:
-        return "frmHelpLoadCombEc";
+        return {"frmHelpLoadCombEc", "Pic_txt_loadcomb"};
     case HelpForm::LoadCombSweden:
-        return "frmHelpLoadCombSw";
+        return {"frmHelpLoadCombSw", "Pic_txt_loadcomb"};
     case HelpForm::PsiEurocode:
-        return "frmHelpEurocode";
+        return {"frmHelpEurocode", "Pic_build_cat"};
     case HelpForm::PsiNorway:
-        return "frmHelpNorway";
+        return {"frmHelpNorway", "Pic_build_cat"};
     case HelpForm::PsiSweden:
-        return "frmHelpSweden";
+        return {"frmHelpSweden", "Pic_build_cat"};
     case HelpForm::PatternsTotal:
-        return "frmHelpComb1";
+        return {"frmHelpComb1", "Pic_loadcomb1"};
     case HelpForm::PatternsQ1:
-        return "frmHelpComb2";
+        return {"frmHelpComb2", "Pic_loadcomb2"};
     }
-    return {};
+    return {"", ""};
+}
+
+} // namespace
+
+std::string help_form_name(HelpForm form)
+{
+    return names_of(form).form;
+}
+
+std::string help_picture_name(HelpForm form)
+{
+    return names_of(form).picture;
 }
 
 std::optional<HelpForm> combination_help(std::string_view annex)

@@ -10,29 +10,29 @@ namespace kvelder {
 // The reference dialogs that explain the classes, factors and load
 // combinations, and the buttons that open them.
 enum class HelpForm {
-    ServiceClass,    // frmHelpServiceClass
-    LoadDuration,    // frmHelpLastvarighet
-    Buckling,        // frmHelpVipp
-    Supports,        // frmHelpOpplegg
-    LoadCombNorway,  // frmHelpLoadCombNo
-    LoadCombEurocode,// frmHelpLoadCombEc
-    LoadCombSweden,  // frmHelpLoadCombSw
-    PsiEurocode,     // frmHelpEurocode
-    PsiNorway,       // frmHelpNorway
-    PsiSweden,       // frmHelpSweden
-    PatternsTotal,   // frmHelpComb1
-    PatternsQ1,      // frmHelpComb2
+    ServiceClass,     // frmHelpServiceClass
+    LoadDuration,     // frmHelpLastvarighet
+    Buckling,         // frmHelpVipp
+    Supports,         // frmHelpOpplegg
+    LoadCombNorway,   // frmHelpLoadCombNo
+    LoadCombEurocode, // frmHelpLoadCombEc
+    LoadCombSweden,   // frmHelpLoadCombSw
+    PsiEurocode,      // frmHelpEurocode
+    PsiNorway,        // frmHelpNorway
+    PsiSweden,        // frmHelpSweden
+    PatternsTotal,    // frmHelpComb1
+    PatternsQ1,       // frmHelpComb2
 };
 
 inline constexpr std::array kHelpForms{
-    HelpForm::ServiceClass,     HelpForm::LoadDuration, HelpForm::Buckling,  HelpForm::Supports,
-    HelpForm::LoadCombNorway,   HelpForm::LoadCombEurocode, HelpForm::LoadCombSweden,
-    HelpForm::PsiEurocode,      HelpForm::PsiNorway,    HelpForm::PsiSweden, HelpForm::PatternsTotal,
-    HelpForm::PatternsQ1,
+    HelpForm::ServiceClass,   HelpForm::LoadDuration,     HelpForm::Buckling,       HelpForm::Supports,
+    HelpForm::LoadCombNorway, HelpForm::LoadCombEurocode, HelpForm::LoadCombSweden, HelpForm::PsiEurocode,
+    HelpForm::PsiNorway,      HelpForm::PsiSweden,        HelpForm::PatternsTotal,  HelpForm::PatternsQ1,
 };
 
-// The form's name, its objectName.
+// The form's name, its objectName, and that of the picture box it draws in.
 std::string help_form_name(HelpForm form);
+std::string help_picture_name(HelpForm form);
 
 // Cmd_610a_b: the combinations of the annex; Cmd_psi0: its psi values. Annexes
 // without a help text ("Uk ", "Fin", "Den") have none.
