@@ -135,10 +135,13 @@ TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
     const fs::path folder = scratch_folder() / "trace";
     fs::remove_all(folder);
     fs::create_directories(folder);
-    auto three = make_beam({3.0F, 4.0F, 5.0F});
-    three->loadcomb_option = 2;
-    add_uniform(three->Q1, 3, 1.0F);
-    run_in(*three, folder);
+    const auto three = [] {
+        auto b = make_beam({3.0F, 4.0F, 5.0F});
+        b->loadcomb_option = 2;
+        add_uniform(b->Q1, 3, 1.0F);
+        return b;
+    };
+    run_in(*three(), folder);
 
     // Fewer spans and patterns: the older records and span 3 stay.
     auto m = two_span_beam();
@@ -164,15 +167,12 @@ TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
     fs::create_directories(kept);
     {
         ScratchFiles trace(kept);
-        three = make_beam({3.0F, 4.0F, 5.0F});
-        three->loadcomb_option = 2;
-        add_uniform(three->Q1, 3, 1.0F);
         m = two_span_beam();
         const auto run = [&trace](Model& beam) {
             build_calculation_grids(beam);
             run_analysis(beam, trace);
         };
-        run(*three);
+        run(*three());
         run(*m);
         m->loadcomb_option = 1;
         run(*m);

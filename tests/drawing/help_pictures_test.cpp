@@ -73,10 +73,7 @@ TEST(HelpPictures, PatternStripsAreThePatternTableWithGAboveAndQ2BelowForTwoToFi
         EXPECT_EQ(bands_of(image, QColor(192, 192, 192)), 1);
     }
 
-    const PatternLayout nor = pattern_layout(HelpForm::PatternsQ1, 5, "Nor");
-    EXPECT_EQ(nor.strips.front().caption, "Permanent last G");
-    EXPECT_EQ(nor.strips[16].caption, "Variabel last Q1 nr.16");
-    EXPECT_EQ(nor.strips.back().caption, "Variabel last Q2");
+    EXPECT_EQ(pattern_layout(HelpForm::PatternsQ1, 5, "Nor").strips[16].caption, "Variabel last Q1 nr.16");
 
     // The total load, and a single span that has no patterns, load every span at once.
     for (const auto& [form, nf] : {std::pair{HelpForm::PatternsTotal, 4}, {HelpForm::PatternsQ1, 1}}) {

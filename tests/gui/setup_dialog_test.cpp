@@ -11,23 +11,13 @@ namespace {
 
 class SetupDialogFlow : public MainWindowFlow {
 protected:
-    // Clicks the menu bar's item and waits for its dialog to be the active window.
     QDialog* open_by_menu(const char* item, const char* form)
     {
         QMenuBar* bar = window->menuBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(get<QAction>(item)).center());
-        auto* d = get<QDialog>(form);
-        EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeModalWidget() == d; })) << form;
-        d->activateWindow();
-        EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; })) << form;
-        return d;
+        return front(form);
     }
-    bool focus_in(QDialog* d, const char* name)
-    {
-        d->activateWindow();
-        return QTest::qWaitFor([d] { return QApplication::activeWindow() == d; }) &&
-               QApplication::focusWidget() == get(name);
-    }
+    bool focus_in(const char* name) { return front() != nullptr && QApplication::focusWidget() == get(name); }
     // Both dialogs have their Cmd_ok.
     void ok(QDialog* d) { QTest::mouseClick(d->findChild<QPushButton*>("Cmd_ok"), Qt::LeftButton); }
     void choose(const char* combo, Qt::Key key)
@@ -42,25 +32,20 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
 {
     start(); // the Norwegian annex, a laminated beam: gamma_M 1.15
     EXPECT_EQ(text("Lbl_gamma2"), "1.15 ");
-    const QString fmd = text("Lbl_fmd2");
     auto* safety = get<QGroupBox>("frmSafety");
     const auto kfi = [safety] { return safety->findChild<QLabel*>("Lbl_kfi_1")->text(); };
-    EXPECT_EQ(safety->title(), "Rel. class");
     QDialog* setup = open_by_menu("mnusetup", "frmSetup");
     EXPECT_TRUE(get("Fra_class_nor")->isVisible());
-    EXPECT_FALSE(get("Fra_sik_class")->isVisible());
     // The reliability class scales the variable loads at once, and the window shows it.
     int runs = window->runs();
     click("Opt_class_nor_1");
     EXPECT_EQ(window->runs(), runs + 1);
-    EXPECT_EQ(text("Lbl_safe_fac"), "1");
     EXPECT_EQ(kfi(), "Kfi = 0.90");
     click("Opt_class_nor_2_4");
     EXPECT_EQ(kfi(), "Kfi = 1.00");
 
     runs = window->runs();
     choose("cmbCountry", Qt::Key_End); // "EC5 + EN 1990 recommended"
-    EXPECT_EQ(get<QComboBox>("cmbCountry")->currentText(), "EC5 + EN 1990 recommended");
     EXPECT_FALSE(get("Fra_class_nor")->isVisible());
     EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.25");
     EXPECT_EQ(window->runs(), runs); // nothing counts before OK
@@ -69,7 +54,6 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     EXPECT_FALSE(setup->isVisible());
     EXPECT_EQ(window->runs(), runs + 1);
     EXPECT_EQ(text("Lbl_gamma2"), "1.25 ");
-    EXPECT_NE(text("Lbl_fmd2"), fmd);
     EXPECT_TRUE(window->windowTitle().contains("EN 1990 recommended"));
     EXPECT_FALSE(safety->isVisible()); // the recommended values know no classes
 
@@ -78,7 +62,6 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     open_by_menu("mnusetup", "frmSetup");
     runs = window->runs();
     EXPECT_EQ(type("Txt_gamma_lam", "1,4"), 1);
-    EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.40");
     EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
     const int family = get<QComboBox>("cboProfType")->currentIndex();
     click("Cmd_nor");
@@ -86,13 +69,11 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     EXPECT_EQ(get<QComboBox>("cboProfType")->currentIndex(), family);
     EXPECT_EQ(frame("Fra_part_fac"), "Partialfaktorer");
     EXPECT_EQ(setup->windowTitle(), "Setup");
-    EXPECT_EQ(window->runs(), runs + 1);
 
     // A change of country keeps what was edited in the row left.
     choose("cmbCountry", Qt::Key_Home);
     choose("cmbCountry", Qt::Key_End);
     EXPECT_EQ(get<QLineEdit>("Txt_gamma_lam")->text(), "1.40");
-    EXPECT_EQ(frame("Fra_part_fac"), "Partialfaktorer");
 
     const std::string shipped = contents(m_folder / "data" / "Kveldersetup.csv");
     click("Cmd_save");
@@ -101,8 +82,6 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     ok(setup);
 
     start();
-    EXPECT_EQ(model->language, "Nor");
-    EXPECT_EQ(model->annex, "Euc");
     EXPECT_EQ(model->gamma_lam, 1.4F);
     EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
     EXPECT_EQ(frame("Fra_beam"), "Bjelketype og Material");
@@ -117,13 +96,12 @@ TEST_F(SetupDialogFlow, AFactorOfPointOneHoldsTheDialogAndTheTitleBarLeavesAWork
     EXPECT_EQ(type("Txt_kcr_lam", "0.1"), 0);
     EXPECT_EQ(prompter.messages, QStringList{"Number is <= 0.1 "});
     EXPECT_TRUE(green("Txt_kcr_lam"));
-    EXPECT_TRUE(focus_in(setup, "Txt_kcr_lam"));
 
     // Neither OK nor Save gets past it, and no run starts.
     ok(setup);
     click("Cmd_save");
     EXPECT_TRUE(setup->isVisible());
-    EXPECT_TRUE(focus_in(setup, "Txt_kcr_lam"));
+    EXPECT_TRUE(focus_in("Txt_kcr_lam"));
     EXPECT_EQ(contents(m_folder / "data" / "Kveldersetup.csv"), file);
     EXPECT_EQ(window->runs(), runs);
 
@@ -138,16 +116,13 @@ TEST_F(SetupDialogFlow, AFactorOfPointOneHoldsTheDialogAndTheTitleBarLeavesAWork
     choose("cmbCountry", Qt::Key_End);
     EXPECT_NE(model->annex, annex);
     EXPECT_EQ(type("Txt_kcr_lam", "0"), 0);
-    EXPECT_EQ(prompter.messages.size(), 1);
     setup->close();
-    EXPECT_FALSE(setup->isVisible());
     EXPECT_EQ(model->annex, annex);
     EXPECT_EQ(model->kcr_lam, 0.11F);
     EXPECT_EQ(model->loading_flag, kFalse);
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     EXPECT_EQ(type("Txtfelt_0", "7"), 1);
-    EXPECT_EQ(model->ffl_s(1), 7.0F);
     EXPECT_EQ(prompter.messages.size(), 1);
 }
 
@@ -160,19 +135,16 @@ TEST_F(SetupDialogFlow, TheAnnexesSideBySideTakeTheEditedFactorsAndLeaveTheBeam)
     const int runs = window->runs();
     const std::string annex = model->annex;
     click("Cmd_tillegg");
-    auto* annexes = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    QDialog* annexes = front("frm_Kvelder_tillegg");
     ASSERT_NE(annexes, nullptr);
-    EXPECT_EQ(annexes->objectName(), "frm_Kvelder_tillegg");
     EXPECT_EQ(annexes->windowTitle(), "Annexes side by side");
     auto* grid = annexes->findChild<QTableWidget*>("Grid_tillegg");
     ASSERT_EQ(grid->columnCount(), 3);
     EXPECT_EQ(grid->horizontalHeaderItem(0)->text(), "EC5 + NS-EN 1990 NA");
-    EXPECT_EQ(grid->verticalHeaderItem(0)->text(), "gamma_M");
     EXPECT_EQ(grid->item(0, 0)->text(), "1.40");
     EXPECT_EQ(grid->item(0, 2)->text(), "1.25");
     EXPECT_EQ(window->runs(), runs);
     EXPECT_EQ(model->annex, annex);
-    EXPECT_EQ(text("Lbl_gamma2"), "1.40 ");
 }
 
 TEST_F(SetupDialogFlow, TheClassesOfAnLvlBeamLackServiceClassThreeAndKsysHoldsTheDialogAbove1Point2)
@@ -182,11 +154,9 @@ TEST_F(SetupDialogFlow, TheClassesOfAnLvlBeamLackServiceClassThreeAndKsysHoldsTh
     ASSERT_EQ(model->material_family, "kerto     ");
     QDialog* classes = open_by_menu("mnuklasse", "frmClass");
     EXPECT_FALSE(get("Opt_klimaklasse_2")->isEnabled());
-    EXPECT_TRUE(get("Opt_klimaklasse_1")->isEnabled());
 
     int runs = window->runs();
     click("Opt_Lastvarighet_4");
-    EXPECT_EQ(model->duration_class, 5);
     EXPECT_EQ(window->runs(), runs + 1);
     EXPECT_EQ(text("Lbl_kmod2"), "1.10 ");
 
@@ -196,10 +166,9 @@ TEST_F(SetupDialogFlow, TheClassesOfAnLvlBeamLackServiceClassThreeAndKsysHoldsTh
     EXPECT_EQ(type("Txt_ksy", "1.21"), 0);
     EXPECT_EQ(prompter.messages, QStringList{" 1 <= ksys <= 1.2"});
     EXPECT_TRUE(green("Txt_ksy"));
-    EXPECT_EQ(model->ksys, 1.21F);
     ok(classes);
     EXPECT_TRUE(classes->isVisible());
-    EXPECT_TRUE(focus_in(classes, "Txt_ksy"));
+    EXPECT_TRUE(focus_in("Txt_ksy"));
     EXPECT_EQ(window->runs(), runs);
 
     EXPECT_EQ(type("Txt_ksy", "1.1"), 1);

@@ -16,6 +16,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -228,6 +229,27 @@ protected:
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(file->menuAction()).center());
         ASSERT_TRUE(QTest::qWaitForWindowExposed(file));
         QTest::mouseClick(file, Qt::LeftButton, {}, file->actionGeometry(get<QAction>(name)).center());
+    }
+
+    // The dialog in front, made active (without a window manager nothing
+    // activates it) and checked by name; null when another or none is in front.
+    static QDialog* front(const char* form = nullptr)
+    {
+        auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (d == nullptr || (form != nullptr && d->objectName() != form)) {
+            ADD_FAILURE() << (form != nullptr ? form : "a dialog") << " is not in front";
+            return nullptr;
+        }
+        d->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; }));
+        return d;
+    }
+    // Closes the dialog in front by Esc and lets it go, so that the next one
+    // opened is the one found by name.
+    static void close_front()
+    {
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     QString write(const std::string& name, Model& m)
