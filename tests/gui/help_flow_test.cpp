@@ -1,4 +1,5 @@
-// The reference dialogs as the main window's help buttons open them.
+// The reference dialogs as the main window's help buttons open them, and the
+// documents of the help menu, which the build lays out beside the program.
 
 #include "tests/gui/window_flow.h"
 
@@ -54,6 +55,26 @@ TEST_F(HelpFlow, EachHelpButtonOpensItsFormInTheLanguageAndThePatternsNeedTwoSpa
     // One span has no patterns to show.
     click("Optfelt_0");
     EXPECT_FALSE(get("Cmd_loadcomb2")->isEnabled());
+}
+
+TEST_F(MainWindowFlow, HelpMenuOpensTheDocumentsOfTheHelpFolderOrSaysWhichIsMissing)
+{
+    const fs::path built = KVELDER_HELP_DIR;
+    help_folder = built;
+    start();
+    menu("mnuman", "mnuHjelp");
+    menu("mnuUpdate", "mnuHjelp");
+    EXPECT_EQ(prompter.opened, (QStringList{qpath(built / "Kvelder manual.pdf"),
+                                            qpath(built / "Kvelder Update information.pdf")}));
+    EXPECT_TRUE(prompter.messages.isEmpty());
+
+    // A folder without them: nothing is handed to the desktop, and the path is named.
+    help_folder = m_folder;
+    start();
+    menu("mnuUpdate", "mnuHjelp");
+    EXPECT_EQ(prompter.opened.size(), 2);
+    EXPECT_EQ(prompter.messages,
+              QStringList{"Can't open " + qpath(m_folder / "Kvelder Update information.pdf")});
 }
 
 } // namespace
