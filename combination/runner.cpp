@@ -60,7 +60,7 @@ void combine_whole(Model& m, LoadCase c)
 }
 
 // Folds a solved case into the combination of a pattern and the envelopes.
-void fold_case(Model& m, const CaseView& k, LoadCase c)
+void fold_case(Model& m, const CaseView& k, LoadCase c, int pattern, EnvelopeWitness* witness)
 {
     for (int i = 1; i <= m.nf; ++i) {
         combine_span(m, k, c, i);
@@ -69,6 +69,9 @@ void fold_case(Model& m, const CaseView& k, LoadCase c)
     }
     combine_reactions(m, k, c);
     reaction_envelope(m);
+    if (witness != nullptr) {
+        witness->taken(m, pattern, c);
+    }
 }
 
 // A solved case kept for the patterns that repeat it.
@@ -186,7 +189,7 @@ void clear_envelopes(Model& m)
     }
 }
 
-void run_total(Model& m, ScratchFiles& trace)
+void run_total(Model& m, ScratchFiles& trace, EnvelopeWitness* witness)
 {
     const DeflectionShapes shapes(m);
     G_forces(m);
@@ -209,6 +212,9 @@ void run_total(Model& m, ScratchFiles& trace)
         copy_force_envelope(m, i);
     }
     copy_reaction_envelope(m);
+    if (witness != nullptr) {
+        witness->taken(m, 1, LoadCase::Nytt_2);
+    }
 
     // The geometry record takes the pattern count of the run before: it is
     // written before this run sets its own.
@@ -217,10 +223,10 @@ void run_total(Model& m, ScratchFiles& trace)
     trace.write_results(m, 1);
 }
 
-void run_patterns(Model& m, ScratchFiles& trace)
+void run_patterns(Model& m, ScratchFiles& trace, EnvelopeWitness* witness)
 {
     if (m.nf == 1) {
-        run_total(m, trace);
+        run_total(m, trace, witness);
         return;
     }
     m.npatterns = static_cast<std::int16_t>(pattern_count(m.nf));
@@ -243,8 +249,8 @@ void run_patterns(Model& m, ScratchFiles& trace)
     // Pattern 1 is G and Q2 alone.
     trace.write_geometry(m);
     clear_combination(m);
-    fold_case(m, G_case->view(), LoadCase::Egen);
-    fold_case(m, Q2_case->view(), LoadCase::Nytt_2);
+    fold_case(m, G_case->view(), LoadCase::Egen, 1, witness);
+    fold_case(m, Q2_case->view(), LoadCase::Nytt_2, 1, witness);
     trace.write_results(m, 1);
 
     // Every further pattern folds G and Q2 into the same combination, which
@@ -255,7 +261,7 @@ void run_patterns(Model& m, ScratchFiles& trace)
         G_Q2->restore(m);
         put_Q1(m, Q1_spans, Q1_pattern(m.nf, p));
         solve_current_case(m, shapes);
-        fold_case(m, current_case(m), LoadCase::Nytt);
+        fold_case(m, current_case(m), LoadCase::Nytt, p, witness);
         // The combination of the pattern, all of its cases folded in.
         trace.write_results(m, p);
     }

@@ -6,7 +6,9 @@
 #include "gui/named.h"
 #include "gui/picture_box.h"
 #include "gui/workspace.h"
+#include "recalc/explain_governing.h"
 #include "ui/detailed_result.h"
+#include "ui/governing_text.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -144,7 +146,8 @@ void DetailedResultDialog::arrange()
 
 void DetailedResultDialog::draw()
 {
-    const std::vector<TextLine> lines = Show_span_detail(m_ws.model(), m_span);
+    std::vector<TextLine> lines = Show_span_detail(m_ws.model(), m_span);
+    append_governing_line(lines, m_ws.model(), explain_governing(m_ws.model()), m_span);
     m_text->draw([&lines](PlotSurface& s) { PlotTextLines(s, lines); });
 }
 

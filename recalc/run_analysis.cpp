@@ -21,7 +21,7 @@ void analysis_constants(Model& m)
 
 } // namespace
 
-void run_analysis(Model& m, ScratchFiles& trace)
+void run_analysis(Model& m, ScratchFiles& trace, EnvelopeWitness* witness)
 {
     analysis_constants(m);
     assemble_and_factorise(m);
@@ -32,9 +32,9 @@ void run_analysis(Model& m, ScratchFiles& trace)
     clear_envelopes(m);
 
     if (m.loadcomb_option == 1) {
-        run_total(m, trace);
+        run_total(m, trace, witness);
     } else if (m.loadcomb_option == 2) {
-        run_patterns(m, trace);
+        run_patterns(m, trace, witness);
     }
     trace.write_run();
 }

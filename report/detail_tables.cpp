@@ -3,6 +3,7 @@
 #include "design/section_checks.h"
 #include "files/number_format.h"
 #include "report/report_text.h"
+#include "ui/governing_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -91,6 +92,43 @@ std::vector<TableLine> reaction_lines(const Model& m)
                                              right(kShearMin, number(m, m.R_min(k), "##0.00 ")),
                                              right(kMomentMax, number(m, m.MR_max(k), "##0.00 ")),
                                              right(kMomentMin, number(m, m.MR_min(k), "##0.00 "))});
+    }
+    return lines;
+}
+
+std::vector<TableLine> governing_lines(const Model& m, const GoverningStates& g)
+{
+    constexpr float kMoment = 16, kShear = 40, kBuckling = 64, kDeflection = 88;
+    const bool buckling = m.vipping_off == 0 && m.section_form != "Tube";
+    std::vector<TableLine> lines{
+        {{text(26, std::string(pick(m, "G o v e r n i n g   L o a d s   ",
+                                    "D i m e n s j o n e r e n d e   L a s t   ")) +
+                       expression_text(m))}},
+        {{right(kSpan, std::string(pick(m, "Span no.", "Felt nr."))), text(kMoment, "Moment"),
+          text(kShear, pick(m, "Shear", "Skj\u00e6r"))}},
+    };
+    if (buckling) {
+        lines.back().cells.push_back(text(kBuckling, pick(m, "Buckling", "Vipping")));
+    }
+    lines.back().cells.push_back(text(kDeflection, pick(m, "Deflection (SLS)", "Nedb\u00f8yning (SLS)")));
+    for (int i = 1; i <= m.nf; ++i) {
+        const SpanGoverning& s = g.spans.at(static_cast<std::size_t>(i - 1));
+        TableLine& line = lines.emplace_back();
+        line.cells = {right(kSpan, number(m, i, "##")), text(kMoment, load_state_name(m, s.bending)),
+                      text(kShear, load_state_name(m, s.shear))};
+        if (buckling) {
+            line.cells.push_back(text(kBuckling, load_state_name(m, s.buckling)));
+        }
+        line.cells.push_back(text(kDeflection, load_state_name(m, s.deflection)));
+    }
+    lines.push_back({{right(kSpan + 2, std::string(pick(m, "Support no.", "Oppleggs nr."))),
+                      text(kMoment, pick(m, "Max. reaction", "Maks. oppleggskraft"))}});
+    for (int node = 1; node <= m.nnodes; ++node) {
+        if (bearing_kind(m, node) != kFree) {
+            const SupportGoverning& s = g.supports.at(static_cast<std::size_t>(reaction_index(m, node) - 1));
+            lines.push_back(
+                {{right(kSpan, number(m, node, "0 ")), text(kMoment, load_state_name(m, s.R_max))}});
+        }
     }
     return lines;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/plot_surface.h"
+#include "model/governing.h"
 #include "model/model.h"
 #include "report/report_sections.h"
 #include "ui/result_points.h"
@@ -22,5 +23,10 @@ std::vector<TableLine> reaction_lines(const Model& m);
 
 // Each table opens with this many lines of head, which a new page repeats.
 constexpr std::size_t kDetailHeads = 3;
+
+// The loading behind each check of each span, a line a span, then behind the
+// largest reaction of each support; it opens with kGoverningHeads lines of head.
+std::vector<TableLine> governing_lines(const Model& m, const GoverningStates& g);
+constexpr std::size_t kGoverningHeads = 2;
 
 } // namespace kvelder

@@ -4,6 +4,7 @@
 #include "drawing/paper_plot.h"
 #include "drawing/plot_scale.h"
 #include "model/load_rows.h"
+#include "recalc/explain_governing.h"
 #include "report/code_check_report.h"
 #include "report/detail_tables.h"
 #include "report/report_sections.h"
@@ -165,14 +166,15 @@ void results_pages(PlotSurface& s, const Model& m, Pages& pages)
 }
 
 // The lines of a table whose first `heads` lines are its head. Where the page
-// ends, the rest goes on under the header of the next page, its head again first.
+// ends, the rest goes on under the header of the next page, its head again
+// first; the head starts a page where its first `together` lines would not fit.
 float print_paged(PlotSurface& s, Pages& pages, const std::vector<TableLine>& lines, std::size_t heads,
-                  float x, float y)
+                  float x, float y, std::size_t together = 1)
 {
     SetTableFont(s);
     const float pitch = LinePitch(s);
     const std::vector<TableLine> head(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(heads));
-    y = PrintLines(s, head, x, pages.room(y, pitch * static_cast<float>(heads + 1)));
+    y = PrintLines(s, head, x, pages.room(y, pitch * static_cast<float>(heads + together)));
     for (std::size_t k = heads; k < lines.size(); ++k) {
         if (y - pitch < kBottom) {
             pages.next();
@@ -190,7 +192,13 @@ void detail_pages(PlotSurface& s, const Model& m, Pages& pages)
                  pick(m, "8.0 Max. and min. forces and deformations(m, kN, kNm, mm) ",
                       "8.0 Maks. og min. krefter og deformasjoner (m, kN, kNm, mm)"));
     float y = print_paged(s, pages, force_lines(m), kDetailHeads, kLeft, kPageTop - 28 - 4 - heading_gap());
-    print_paged(s, pages, reaction_lines(m), kDetailHeads, kLeft, y - LinePitch(s));
+    y = print_paged(s, pages, reaction_lines(m), kDetailHeads, kLeft, y - LinePitch(s));
+    if (const auto governing = explain_governing(m)) {
+        // A short table, kept whole.
+        const std::vector<TableLine> lines = governing_lines(m, *governing);
+        print_paged(s, pages, lines, kGoverningHeads, kLeft, y - LinePitch(s),
+                    lines.size() - kGoverningHeads);
+    }
 }
 
 } // namespace

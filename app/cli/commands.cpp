@@ -10,6 +10,7 @@
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "recalc/annex_comparison.h"
+#include "recalc/explain_governing.h"
 #include "recalc/main_calc.h"
 #include "recalc/section_search.h"
 #include "report/report_pdf.h"
@@ -258,7 +259,10 @@ int run_calc(const Options& o, std::ostream& out, std::ostream& err)
         if (o.text) {
             out << result_text(*m);
         } else {
-            out << result_json(*m, run.messages).dump(2) << '\n';
+            nlohmann::ordered_json results = result_json(*m, run.messages);
+            const auto governing = explain_governing(*m);
+            results["governing"] = governing ? governing_json(*m, *governing) : nullptr;
+            out << results.dump(2) << '\n';
         }
         return kCalculated;
     });

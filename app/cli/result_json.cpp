@@ -140,7 +140,45 @@ ordered_json bearing(const Model& m)
     return list;
 }
 
+ordered_json governing_value(const Model& m, const std::optional<GoverningValue>& v, bool uls)
+{
+    if (!v) {
+        return nullptr;
+    }
+    const LoadState& s = v->state;
+    std::string loads = "G";
+    loads += s.Q1_spans.empty() ? "" : "+Q1";
+    loads += s.Q2 ? "+Q2" : "";
+    return {
+        {"pattern", s.pattern},   {"loads", loads},
+        {"Q1_spans", s.Q1_spans}, {"combination", uls ? (m.comb_rule == "610a" ? "6.10a" : "6.10b") : "SLS"},
+        {"x", single(v->x)},      {"value", single(v->value)}};
+}
+
 } // namespace
+
+ordered_json governing_json(const Model& m, const GoverningStates& g)
+{
+    ordered_json spans = ordered_json::array();
+    for (std::size_t i = 0; i < g.spans.size(); ++i) {
+        const SpanGoverning& s = g.spans[i];
+        spans.push_back({{"span", i + 1},
+                         {"bending", governing_value(m, s.bending, true)},
+                         {"shear", governing_value(m, s.shear, true)},
+                         {"buckling", governing_value(m, s.buckling, true)},
+                         {"deflection", governing_value(m, s.deflection, false)}});
+    }
+    ordered_json supports = ordered_json::array();
+    for (std::size_t k = 0; k < g.supports.size(); ++k) {
+        const SupportGoverning& s = g.supports[k];
+        supports.push_back({{"node", m.sup_node(static_cast<int>(k) + 1)},
+                            {"R_max", governing_value(m, s.R_max, true)},
+                            {"R_min", governing_value(m, s.R_min, true)},
+                            {"MR_max", governing_value(m, s.MR_max, true)},
+                            {"MR_min", governing_value(m, s.MR_min, true)}});
+    }
+    return {{"spans", spans}, {"supports", supports}};
+}
 
 ordered_json result_json(const Model& m, const std::vector<Message>& messages)
 {

@@ -347,7 +347,7 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
         "nsupLeft_s": "I", "loadcomb_option": 2,
         "G": {"uni": [[1, 1.5], [2, 1.5], [3, 1.5], [4, 1.5], [5, 1.5]], "pt": [[4, 8.0, 2.5]], "mom": [[3, 4.0, 1.5]]},
         "Q1": {"uni": [[1, 3.0], [3, 3.0]], "trap": [[5, 0.0, 4.0, 0.5, 4.0]], "mom": [[4, 3.0, 3.0]]}})");
-    for (const auto& [input, pages] : {std::pair{std::string(), 2}, {five, 4}}) {
+    for (const auto& [input, pages] : {std::pair{std::string(), 2}, {five, 5}}) {
         Args args{"report", "-o", scratch("report.pdf")};
         Args calc{"calc"};
         if (!input.empty()) {
@@ -394,6 +394,13 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
                 EXPECT_TRUE(holds_number(words, support["R"].get<double>()))
                     << input << " node " << support["node"];
             }
+        }
+        // The detailed printout names the pattern behind each span's moment.
+        for (const json& span : input.empty() ? json::array() : result["governing"]["spans"]) {
+            const int pattern = span["bending"]["pattern"].get<int>();
+            const std::string named = pattern > 1 ? "nr." + std::to_string(pattern - 1)
+                                                  : span["bending"]["loads"].get<std::string>();
+            EXPECT_NE(std::find(words.begin(), words.end(), named), words.end()) << "span " << span["span"];
         }
     }
 
