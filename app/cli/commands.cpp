@@ -361,9 +361,9 @@ nlohmann::ordered_json candidate_json(const SectionCandidate& c)
 {
     nlohmann::ordered_json j{{"profile", c.profile}, {"prof_type_index", c.prof_type_index}};
     j["prof_index"] = c.prof_index >= 0 ? nlohmann::ordered_json(c.prof_index) : nlohmann::ordered_json();
-    j["b"] = c.b;
-    j["h"] = c.h;
-    j["uf_max"] = c.uf_max;
+    j["b"] = single(c.b);
+    j["h"] = single(c.h);
+    j["uf_max"] = single(c.uf_max);
     j["governing"] = check_name(c.governing);
     return j;
 }
