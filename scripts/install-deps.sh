@@ -16,6 +16,11 @@ packages=(
   poppler-utils
 )
 
+# scripts/install-deps.sh windows: also the cross compiler and wine of scripts/test-windows.sh.
+if [ "${1:-}" = windows ]; then
+  packages+=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix wine64)
+fi
+
 missing=()
 for p in "${packages[@]}"; do
   if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then

@@ -2,7 +2,7 @@
 
 #include "app/cli/beam_description.h"
 #include "app/cli/beam_dump.h"
-#include "app/cli/plot_command.h"
+#include "app/cli/pictures.h"
 #include "app/cli/result_json.h"
 #include "app/cli/result_text.h"
 #include "design/factors.h"
@@ -13,7 +13,6 @@
 #include "recalc/explain_governing.h"
 #include "recalc/main_calc.h"
 #include "recalc/section_search.h"
-#include "report/report_pdf.h"
 #include "ui/input_checks.h"
 #include "ui/load_checks.h"
 #include "ui/messages.h"
@@ -299,9 +298,22 @@ int run_dump(const Options& o, std::ostream& out, std::ostream& err)
     });
 }
 
+namespace {
+
+// Drawing needs Qt; a build without it says so before anything is read.
+void need_pictures(const Options& o)
+{
+    if (!has_pictures()) {
+        stop(kUsageError, o.command + " draws, and this build has no pictures (it was built without Qt)");
+    }
+}
+
+} // namespace
+
 int run_plot(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
+        need_pictures(o);
         auto [m, input, run] = run_input(o, err);
         if (!run.calculated) {
             return report_failure(run.messages, err);
@@ -316,13 +328,13 @@ int run_plot(const Options& o, std::ostream&, std::ostream& err)
 int run_report(const Options& o, std::ostream&, std::ostream& err)
 {
     return guarded(err, [&] {
+        need_pictures(o);
         auto [m, input, run] = run_input(o, err);
         if (const auto refused = unwritten(run, *o.output, err)) {
             return *refused;
         }
         const std::string source = o.input ? o.input->string() : "New File";
-        if (const auto failed =
-                write_report_pdf(*m, *o.output, report_stamp(source), PrintSession{o.detailed})) {
+        if (const auto failed = write_report(*m, *o.output, source, o.detailed)) {
             stop(kUsageError, *failed);
         }
         return kCalculated;

@@ -1,14 +1,15 @@
 // kvelder-cli: the calculation without the window, for scripts and for tests.
 
 #include "app/cli/commands.h"
-#include "drawing/headless_platform.h"
-
-#include <QCoreApplication>
-#include <QGuiApplication>
 
 #include <filesystem>
 #include <iostream>
-#include <memory>
+#include <string>
+#include <vector>
+
+#ifdef KVELDER_WITH_QT
+#include <QCoreApplication>
+#endif
 
 namespace {
 
@@ -16,12 +17,18 @@ namespace fs = std::filesystem;
 
 // The data folder installed beside the program, or the one of the source tree
 // that a build runs from.
-fs::path installed_data_dir()
+fs::path installed_data_dir([[maybe_unused]] int argc, [[maybe_unused]] char** argv)
 {
+#ifdef KVELDER_WITH_QT
+    const QCoreApplication app(argc, argv);
     const fs::path exe_dir = QCoreApplication::applicationDirPath().toStdWString();
     const fs::path beside = exe_dir.parent_path() / "share" / "kvelder";
     std::error_code ec;
-    return fs::exists(beside / "EC5Material.csv", ec) ? beside : fs::path(KVELDER_SOURCE_DATA_DIR);
+    if (fs::exists(beside / "EC5Material.csv", ec)) {
+        return beside;
+    }
+#endif
+    return fs::path(KVELDER_SOURCE_DATA_DIR);
 }
 
 } // namespace
@@ -29,12 +36,5 @@ fs::path installed_data_dir()
 int main(int argc, char** argv)
 {
     const std::vector<std::string> args(argv + 1, argv + argc);
-    // Only the pictures need Qt's drawing; the rest stays off any display.
-    const bool pictures = !args.empty() && (args[0] == "plot" || args[0] == "report");
-    if (pictures) {
-        kvelder::choose_headless_platform();
-    }
-    const std::unique_ptr<QCoreApplication> app = pictures ? std::make_unique<QGuiApplication>(argc, argv)
-                                                           : std::make_unique<QCoreApplication>(argc, argv);
-    return kvelder::cli::run_cli(args, installed_data_dir(), std::cout, std::cerr);
+    return kvelder::cli::run_cli(args, installed_data_dir(argc, argv), std::cout, std::cerr);
 }

@@ -1,13 +1,9 @@
 // kvelder-cli from the outside: what it prints and how it exits.
 
 #include "app/cli/beam_description.h"
-#include "app/cli/commands.h"
 #include "files/project_file.h"
-#include "tests/support/beams.h"
+#include "tests/app/cli_run.h"
 
-#include <QCryptographicHash>
-#include <QImage>
-#include <QImageReader>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -23,47 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-using Args = std::vector<std::string>;
-
-struct CliRun {
-    int exit = -1;
-    std::string out;
-    std::string err;
-};
-
-// Runs the command in process, in the scratch folder, where it leaves its trace files.
-CliRun run(const Args& args, const fs::path& folder = scratch_folder())
-{
-    fs::create_directories(folder);
-    const fs::path before = fs::current_path();
-    fs::current_path(folder);
-    std::ostringstream out, err;
-    CliRun r;
-    r.exit = cli::run_cli(args, source_data_dir(), out, err);
-    fs::current_path(before);
-    r.out = out.str();
-    r.err = err.str();
-    return r;
-}
-
-std::string file_text(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-// A description written to the scratch folder; its path for the command line.
-std::string description(const std::string& name, const std::string& text)
-{
-    const fs::path path = scratch_folder() / name;
-    std::ofstream(path) << text;
-    return path.string();
-}
-
-std::string scratch(const std::string& name)
-{
-    return (scratch_folder() / name).string();
-}
 
 // A data folder of the shipped files whose material catalogue has `from` replaced by `to`.
 std::string data_folder(const std::string& name, const std::string& from, const std::string& to)
@@ -299,150 +254,6 @@ TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
     r = run({"save", description("zero.json", R"({"nf": 2, "ffl_s": [5.0, 0.0]})"), "-o", refused});
     EXPECT_EQ(r.exit, 1);
     EXPECT_FALSE(fs::exists(refused));
-}
-
-TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
-{
-    const fs::path folder = scratch_folder() / "pictures";
-    const CliRun r = run({"plot", "-o", folder.string(), "--size", "640x240"});
-    ASSERT_EQ(r.exit, 0) << r.err;
-    for (const char* name :
-         {"Picfelt", "Picegenlast", "Picnyttelast", "Picnyttelast_2", "Picresult", "Picdisp"}) {
-        const QString png = QString::fromStdString((folder / (std::string(name) + ".png")).string());
-        EXPECT_EQ(QImageReader(png, "png").size(), QSize(640, 240)) << name;
-    }
-
-    const std::string blocked = scratch("blocked");
-    std::ofstream(blocked) << "a file where the folder should be";
-    const CliRun refused = run({"plot", "-o", blocked});
-    EXPECT_EQ(refused.exit, 2);
-    EXPECT_NE(refused.err.find("no folder"), std::string::npos) << refused.err;
-}
-
-// The words and numbers of a PDF, as pdftotext reads them: the text is vector text.
-std::vector<std::string> pdf_words(const std::string& pdf)
-{
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QString::fromStdString(pdf), QStringLiteral("-")});
-    EXPECT_TRUE(reader.waitForFinished(30000)) << "pdftotext";
-    std::istringstream text(reader.readAllStandardOutput().toStdString());
-    return {std::istream_iterator<std::string>(text), {}};
-}
-
-bool holds_number(const std::vector<std::string>& words, double value)
-{
-    return std::any_of(words.begin(), words.end(), [value](const std::string& w) {
-        char* end = nullptr;
-        const double v = std::strtod(w.c_str(), &end);
-        return end != w.c_str() && *end == '\0' && std::abs(v - value) < 0.0051;
-    });
-}
-
-// The report holds a header on every page and, as calc gives them, the
-// material, each span's usage factors and each support's reaction.
-TEST(CliReport, ThePdfHoldsWhatCalcGives)
-{
-    const std::string five =
-        description("five.json", R"({"language": "Nor", "ffl_s": [4.0, 5.0, 3.5, 6.0, 4.5],
-        "nsupLeft_s": "I", "loadcomb_option": 2,
-        "G": {"uni": [[1, 1.5], [2, 1.5], [3, 1.5], [4, 1.5], [5, 1.5]], "pt": [[4, 8.0, 2.5]], "mom": [[3, 4.0, 1.5]]},
-        "Q1": {"uni": [[1, 3.0], [3, 3.0]], "trap": [[5, 0.0, 4.0, 0.5, 4.0]], "mom": [[4, 3.0, 3.0]]}})");
-    for (const auto& [input, pages] : {std::pair{std::string(), 2}, {five, 5}}) {
-        Args args{"report", "-o", scratch("report.pdf")};
-        Args calc{"calc"};
-        if (!input.empty()) {
-            args.insert(args.begin() + 1, input);
-            args.push_back("--detailed");
-            calc.push_back(input);
-        }
-        const CliRun r = run(args);
-        ASSERT_EQ(r.exit, 0) << r.err;
-        const std::vector<std::string> words = pdf_words(scratch("report.pdf"));
-        const json result = json::parse(run(calc).out);
-        const bool english = input.empty();
-        EXPECT_EQ(std::count(words.begin(), words.end(), english ? "Page:" : "Side:"), pages) << input;
-        EXPECT_NE(std::find(words.begin(), words.end(), result["material"]["name"].get<std::string>()),
-                  words.end());
-        for (const json& check : result["checks"]) {
-            for (const char* key : {"Uf_pos", "Uf_neg", "Uf_tau"}) {
-                EXPECT_TRUE(holds_number(words, check[key].get<double>()))
-                    << input << " span " << check["span"] << key;
-            }
-        }
-        // Each page, rendered, has ink, and none in a band along the paper's edges.
-        const QString base = QString::fromStdString(scratch("page"));
-        QProcess::execute(QStringLiteral("pdftoppm"),
-                          {QStringLiteral("-r"), QStringLiteral("20"), QStringLiteral("-png"),
-                           QString::fromStdString(scratch("report.pdf")), base});
-        for (int page = 1; page <= pages; ++page) {
-            const QImage image(base + QStringLiteral("-%1.png").arg(page));
-            ASSERT_FALSE(image.isNull()) << input << " page " << page;
-            const int band = image.width() / 40;
-            bool inked = false, edge = false;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    const bool ink = qGray(image.pixel(x, y)) < 200;
-                    inked = inked || ink;
-                    edge = edge || (ink && (x < band || y < band || x >= image.width() - band ||
-                                            y >= image.height() - band));
-                }
-            }
-            EXPECT_TRUE(inked && !edge) << input << " page " << page;
-        }
-        for (const json& support : result["bearing"]) {
-            if (support.contains("R")) { // a built-in end carries no bearing check
-                EXPECT_TRUE(holds_number(words, support["R"].get<double>()))
-                    << input << " node " << support["node"];
-            }
-        }
-        // The detailed printout names the pattern behind each span's moment.
-        for (const json& span : input.empty() ? json::array() : result["governing"]["spans"]) {
-            const int pattern = span["bending"]["pattern"].get<int>();
-            const std::string named = pattern > 1 ? "nr." + std::to_string(pattern - 1)
-                                                  : span["bending"]["loads"].get<std::string>();
-            EXPECT_NE(std::find(words.begin(), words.end(), named), words.end()) << "span " << span["span"];
-        }
-    }
-
-    const CliRun failing = run({"report", description("bad_row.json", R"({"G": {"uni": [[3, 2.0]]}})"), "-o",
-                                scratch("failing.pdf")});
-    EXPECT_EQ(failing.exit, 1);
-    EXPECT_FALSE(fs::exists(scratch("failing.pdf")));
-}
-
-// The results and both trace files of a set of beams, kept from before the
-// program's layers were last rearranged: every later build must give them
-// byte for byte.
-TEST(CliGolden, ResultsAndTracesStayByteForByte)
-{
-    const fs::path golden = fs::path(KVELDER_GOLDEN_DIR);
-    std::map<std::string, std::string> digests; // "beam/file" -> sha256
-    std::istringstream listed(file_text(golden / "traces.sha256"));
-    for (std::string digest, name; listed >> digest >> name;) {
-        digests[name] = digest;
-    }
-    int beams = 0;
-    for (const auto& entry : fs::directory_iterator(golden / "beams")) {
-        const std::string name = entry.path().stem().string();
-        const fs::path folder = scratch_folder() / "golden" / name;
-        fs::remove_all(folder);
-        const CliRun r = run({"calc", entry.path().string()}, folder);
-        EXPECT_EQ(r.exit, name == "refused" ? 1 : 0) << name;
-        EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
-        for (const char* trace : {"Resultater", "Geometri"}) {
-            const auto expected = digests.find(name + "/" + trace);
-            if (expected == digests.end()) {
-                EXPECT_FALSE(fs::exists(folder / trace)) << name << "/" << trace;
-                continue;
-            }
-            const std::string bytes = file_text(folder / trace);
-            const QByteArray sha =
-                QCryptographicHash::hash(QByteArray::fromStdString(bytes), QCryptographicHash::Sha256);
-            EXPECT_EQ(sha.toHex().toStdString(), expected->second) << name << "/" << trace;
-        }
-        ++beams;
-    }
-    EXPECT_EQ(beams, 12);
 }
 
 // A family is chosen before the section form, as in the window: the profile
