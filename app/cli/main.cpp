@@ -1,7 +1,10 @@
 // kvelder-cli: the calculation without the window, for scripts and for tests.
 
 #include "app/cli/commands.h"
+#include "app/cli/platform_args.h"
 #include "drawing/headless_platform.h"
+#include "files/path_text.h"
+#include "files/program_folders.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -18,17 +21,16 @@ namespace fs = std::filesystem;
 // that a build runs from.
 fs::path installed_data_dir()
 {
-    const fs::path exe_dir = QCoreApplication::applicationDirPath().toStdWString();
-    const fs::path beside = exe_dir.parent_path() / "share" / "kvelder";
-    std::error_code ec;
-    return fs::exists(beside / "EC5Material.csv", ec) ? beside : fs::path(KVELDER_SOURCE_DATA_DIR);
+    return kvelder::installed_data_dir(kvelder::program_dir())
+        .value_or(kvelder::path_from_utf8(KVELDER_SOURCE_DATA_DIR));
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const std::vector<std::string> args(argv + 1, argv + argc);
+    const std::vector<std::string> args = kvelder::cli::utf8_arguments(argc, argv);
+    kvelder::cli::print_utf8();
     // Only the pictures need Qt's drawing; the rest stays off any display.
     const bool pictures = !args.empty() && (args[0] == "plot" || args[0] == "report");
     if (pictures) {

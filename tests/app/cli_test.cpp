@@ -2,6 +2,8 @@
 
 #include "app/cli/beam_description.h"
 #include "app/cli/commands.h"
+#include "drawing/path_qstring.h"
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "tests/support/beams.h"
 
@@ -16,6 +18,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace kvelder::test {
@@ -57,12 +60,12 @@ std::string description(const std::string& name, const std::string& text)
 {
     const fs::path path = scratch_folder() / name;
     std::ofstream(path) << text;
-    return path.string();
+    return utf8_text(path);
 }
 
 std::string scratch(const std::string& name)
 {
-    return (scratch_folder() / name).string();
+    return utf8_text(scratch_folder() / name);
 }
 
 // A data folder of the shipped files whose material catalogue has `from` replaced by `to`.
@@ -76,7 +79,7 @@ std::string data_folder(const std::string& name, const std::string& from, const 
     std::string materials = file_text(source_data_dir() / "EC5Material.csv");
     materials.replace(materials.find(from), from.size(), to);
     std::ofstream(folder / "EC5Material.csv", std::ios::binary) << materials;
-    return folder.string();
+    return utf8_text(folder);
 }
 
 TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
@@ -189,10 +192,10 @@ TEST(CliCalc, DataFoldersMissingFilesOrFromWindows)
     // Missing files are reported and the shipped ones used.
     const fs::path empty = scratch_folder() / "empty_data";
     fs::create_directories(empty);
-    CliRun r = run({"calc", "--data-dir", empty.string()});
+    CliRun r = run({"calc", "--data-dir", utf8_text(empty)});
     EXPECT_EQ(r.exit, 0);
     for (const char* file : {"EC5Material.csv", "EC5Profile.csv", "Kveldersetup.csv"}) {
-        EXPECT_NE(r.err.find((empty / file).string()), std::string::npos) << file;
+        EXPECT_NE(r.err.find(utf8_text(empty / file)), std::string::npos) << file;
     }
     EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30c");
 
@@ -301,14 +304,34 @@ TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
     EXPECT_FALSE(fs::exists(refused));
 }
 
+// Project names as engineers give them, handed on as UTF-8 as main reads them.
+TEST(CliProject, NamesBeyondTheCodePageAreSavedCalculatedAndNamedInMessages)
+{
+    const fs::path folder = scratch_folder() / "names";
+    fs::remove_all(folder);
+    std::set<std::string> names{"bjelke p\u00e5 loftet.kvel", "B\u201312 \u20ac.kvel", "\u03a9-bjelke.kvel"};
+    for (const std::string& name : names) {
+        const CliRun saved = run({"save", "-o", name}, folder);
+        ASSERT_EQ(saved.exit, 0) << name << saved.err;
+        const CliRun calculated = run({"calc", name}, folder);
+        EXPECT_EQ(calculated.exit, 0) << name << calculated.err;
+        const CliRun gone = run({"calc", "gone " + name}, folder);
+        EXPECT_NE(gone.err.find("gone " + name + ": Can't find file"), std::string::npos) << gone.err;
+    }
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        names.erase(utf8_text(entry.path().filename())); // the trace files are there too
+    }
+    EXPECT_TRUE(names.empty()) << *names.begin();
+}
+
 TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
 {
     const fs::path folder = scratch_folder() / "pictures";
-    const CliRun r = run({"plot", "-o", folder.string(), "--size", "640x240"});
+    const CliRun r = run({"plot", "-o", utf8_text(folder), "--size", "640x240"});
     ASSERT_EQ(r.exit, 0) << r.err;
     for (const char* name :
          {"Picfelt", "Picegenlast", "Picnyttelast", "Picnyttelast_2", "Picresult", "Picdisp"}) {
-        const QString png = QString::fromStdString((folder / (std::string(name) + ".png")).string());
+        const QString png = to_qstring(folder / (std::string(name) + ".png"));
         EXPECT_EQ(QImageReader(png, "png").size(), QSize(640, 240)) << name;
     }
 
@@ -415,7 +438,7 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
 // byte for byte.
 TEST(CliGolden, ResultsAndTracesStayByteForByte)
 {
-    const fs::path golden = fs::path(KVELDER_GOLDEN_DIR);
+    const fs::path golden = path_from_utf8(KVELDER_GOLDEN_DIR);
     std::map<std::string, std::string> digests; // "beam/file" -> sha256
     std::istringstream listed(file_text(golden / "traces.sha256"));
     for (std::string digest, name; listed >> digest >> name;) {
@@ -423,10 +446,10 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
     }
     int beams = 0;
     for (const auto& entry : fs::directory_iterator(golden / "beams")) {
-        const std::string name = entry.path().stem().string();
+        const std::string name = utf8_text(entry.path().stem());
         const fs::path folder = scratch_folder() / "golden" / name;
         fs::remove_all(folder);
-        const CliRun r = run({"calc", entry.path().string()}, folder);
+        const CliRun r = run({"calc", utf8_text(entry.path())}, folder);
         EXPECT_EQ(r.exit, name == "refused" ? 1 : 0) << name;
         EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
         for (const char* trace : {"Resultater", "Geometri"}) {

@@ -5,6 +5,7 @@
 // digests the build made before any such work.
 
 #include "app/cli/commands.h"
+#include "files/path_text.h"
 #include "tests/support/beams.h"
 
 #include <QByteArray>
@@ -171,7 +172,7 @@ std::string digest_line(int k, const std::string& description)
     const fs::path before = fs::current_path();
     fs::current_path(folder);
     std::ostringstream out, err;
-    const int exit = cli::run_cli({"calc", (folder / "beam.json").string()}, source_data_dir(), out, err);
+    const int exit = cli::run_cli({"calc", utf8_text(folder / "beam.json")}, source_data_dir(), out, err);
     fs::current_path(before);
     // The digests were kept before calc explained what governs: the results
     // before that explanation must stay as they were.
@@ -190,7 +191,7 @@ std::string digest_line(int k, const std::string& description)
 TEST(RandomBeams, ResultsAndTracesStayByteForByte)
 {
     Draw draw{std::mt19937(20261124)};
-    std::istringstream kept(file_text(fs::path(KVELDER_GOLDEN_DIR) / "random_beams.sha256"));
+    std::istringstream kept(file_text(path_from_utf8(KVELDER_GOLDEN_DIR) / "random_beams.sha256"));
     int calculated = 0;
     for (int k = 1; k <= kBeams; ++k) {
         const std::string line = digest_line(k, random_beam(draw));
