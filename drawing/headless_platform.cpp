@@ -1,5 +1,7 @@
 #include "drawing/headless_platform.h"
 
+#include "drawing/path_qstring.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
@@ -30,13 +32,12 @@ void choose_headless_platform()
     // Qt wants a private runtime folder and complains on stderr without one.
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
         std::error_code ec;
-        const std::filesystem::path runtime =
-            std::filesystem::temp_directory_path(ec) /
-            ("kvelder-runtime-" + qEnvironmentVariable("USER").toStdString());
+        const std::filesystem::path runtime = std::filesystem::temp_directory_path(ec) /
+                                              to_path("kvelder-runtime-" + qEnvironmentVariable("USER"));
         std::filesystem::create_directory(runtime, ec);
         std::filesystem::permissions(runtime, std::filesystem::perms::owner_all, ec);
         if (!ec) {
-            qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.string()));
+            qputenv("XDG_RUNTIME_DIR", to_qstring(runtime).toUtf8());
         }
     }
 #endif

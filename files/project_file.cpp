@@ -108,8 +108,16 @@ std::optional<ProjectFailure> WriteProject(Model& m, const fs::path& path)
     } catch (const std::length_error& e) {
         return failure(ProjectFailure::Kind::TooLong, path, e.what());
     }
-    if (const std::error_code ec = replace_file(path, bytes)) {
-        return failure(ProjectFailure::Kind::Unwritable, path, ec.message());
+    if (const std::optional<ReplaceFailure> failed = replace_file(path, bytes)) {
+        switch (failed->kind) {
+        case ReplaceFailure::Kind::ReadOnly:
+            return failure(ProjectFailure::Kind::ReadOnly, path);
+        case ReplaceFailure::Kind::InUse:
+            return failure(ProjectFailure::Kind::InUse, path);
+        case ReplaceFailure::Kind::Unwritable:
+            break;
+        }
+        return failure(ProjectFailure::Kind::Unwritable, path, failed->error.message());
     }
     m.setup = file.setup;
     for (int node = 2; node <= m.nnodes - 1; ++node) {

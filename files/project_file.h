@@ -19,6 +19,8 @@ struct ProjectFailure {
         NotAProject,  // the bytes are no project (detail says where and why)
         Unreadable,   // there, but it cannot be read
         Unwritable,   // the new file could not be written; the old one stands
+        ReadOnly,     // the file is marked read-only; nothing was written
+        InUse,        // another program holds the file open; the old one stands
         TooLong,      // a text is too long for the file (detail names it)
     };
     Kind kind;

@@ -1,5 +1,7 @@
 #include "files/recent_files.h"
 
+#include "files/path_text.h"
+
 namespace kvelder {
 
 std::vector<std::string> ShowRecentFiles(const RecentFileStore& store)
@@ -9,23 +11,23 @@ std::vector<std::string> ShowRecentFiles(const RecentFileStore& store)
         return captions;
     }
     for (int k = 1; k <= kRecentFiles; ++k) {
-        const std::string path = store.value(k);
+        const std::filesystem::path path = store.value(k);
         if (!path.empty()) {
-            captions.push_back(std::to_string(captions.size() + 1) + ". " + path);
+            captions.push_back(std::to_string(captions.size() + 1) + ". " + utf8_text(path));
         }
     }
     return captions;
 }
 
-std::string recent_file_path(const std::string& caption)
+std::filesystem::path recent_file_path(const std::string& caption)
 {
-    return caption.size() > 3 ? caption.substr(3) : std::string();
+    return caption.size() > 3 ? path_from_utf8(std::string_view(caption).substr(3)) : std::filesystem::path();
 }
 
-void AddRecentFile(RecentFileStore& store, const std::string& path)
+void AddRecentFile(RecentFileStore& store, const std::filesystem::path& path)
 {
     for (int k = kRecentFiles - 1; k >= 1; --k) {
-        const std::string value = store.value(k);
+        const std::filesystem::path value = store.value(k);
         if (!value.empty()) {
             store.set_value(k + 1, value);
         }
@@ -33,7 +35,7 @@ void AddRecentFile(RecentFileStore& store, const std::string& path)
     store.set_value(1, path);
 }
 
-void MoveRecentFile(RecentFileStore& store, const std::string& path)
+void MoveRecentFile(RecentFileStore& store, const std::filesystem::path& path)
 {
     if (path.empty()) {
         return;
@@ -50,7 +52,7 @@ void MoveRecentFile(RecentFileStore& store, const std::string& path)
     // The entries in front of the path (all of them when it is new) move down one.
     const int last = found == 0 ? kRecentFiles - 1 : found - 1;
     for (int k = last; k >= 1; --k) {
-        const std::string value = store.value(k);
+        const std::filesystem::path value = store.value(k);
         if (!value.empty()) {
             store.set_value(k + 1, value);
         }

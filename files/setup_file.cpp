@@ -135,10 +135,11 @@ std::string SetupFileText(const FileDatabase& db, std::int16_t decimal_comma)
     return out;
 }
 
-bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const std::filesystem::path& path)
+std::optional<ReplaceFailure> WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma,
+                                             const std::filesystem::path& path)
 {
     const std::string text = SetupFileText(db, decimal_comma);
-    return !replace_file(path, std::as_bytes(std::span(text.data(), text.size())));
+    return replace_file(path, std::as_bytes(std::span(text.data(), text.size())));
 }
 
 std::vector<std::string> unusable_fields(const SetupRow& r)

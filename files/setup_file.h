@@ -1,10 +1,12 @@
 #pragma once
 
 #include "files/catalogue.h"
+#include "files/replace_file.h"
 #include "model/catalogues.h"
 #include "model/model.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +24,9 @@ FileDatabase ReadSetupFile(std::string_view text, std::int16_t decimal_comma, Re
 std::string SetupFileText(const FileDatabase& db, std::int16_t decimal_comma);
 
 // Writes the setup file in one step: a new file replaces the old one only when
-// it is complete. False when it could not be written; the old file then stands.
-bool WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma, const std::filesystem::path& path);
+// it is complete. Why it could not be written, if it could not; the old file then stands.
+std::optional<ReplaceFailure> WriteSetupFile(const FileDatabase& db, std::int16_t decimal_comma,
+                                             const std::filesystem::path& path);
 
 // The fields of an annex row that no calculation can use: a partial factor or
 // kcr of 0.1 or less, a class or psi position outside its list.

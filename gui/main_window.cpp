@@ -1,7 +1,9 @@
 #include "gui/main_window.h"
 
+#include "drawing/path_qstring.h"
 #include "drawing/pictures.h"
 #include "drawing/plot_surface.h"
+#include "files/path_text.h"
 #include "gui/annex_dialog.h"
 #include "gui/buckling_dialog.h"
 #include "gui/captioning.h"
@@ -295,9 +297,7 @@ void MainWindow::begin(const std::vector<DataFileNote>& notes, const std::option
     }
     if (project) {
         // A project that cannot be opened leaves the example beam, as it stands.
-        const std::string name = command_line_path(*project);
-        const std::filesystem::path path(std::u8string(name.begin(), name.end()));
-        if (auto failure = open_file(m_model, m_session, path, m_dialogs, m_recent)) {
+        if (auto failure = open_file(m_model, m_session, command_line_path(*project), m_dialogs, m_recent)) {
             show_message(*failure);
         }
         fill();
@@ -525,14 +525,13 @@ void MainWindow::save_report_pdf()
     if (!may_report()) {
         return;
     }
-    const std::filesystem::path initial =
-        std::filesystem::path(m_session.project_path).replace_extension(".pdf");
-    const std::optional<QString> name =
-        m_prompter.pdf_file_name(this, QString::fromStdWString(initial.filename().wstring()));
+    std::filesystem::path initial = m_session.project_path;
+    initial.replace_extension(".pdf");
+    const std::optional<QString> name = m_prompter.pdf_file_name(this, to_qstring(initial.filename()));
     if (!name) {
         return;
     }
-    std::filesystem::path file(name->toStdWString());
+    std::filesystem::path file = to_path(*name);
     if (!file.has_extension()) {
         file += ".pdf";
     }
@@ -594,13 +593,12 @@ void MainWindow::file_open()
     if (!commit_focused_box() || !may_discard()) {
         return;
     }
-    const std::optional<QString> name =
-        m_prompter.open_file_name(this, QString::fromStdWString(m_session.current_dir.wstring()));
+    const std::optional<QString> name = m_prompter.open_file_name(this, to_qstring(m_session.current_dir));
     if (!name) {
         show_message(cancel_message());
         return;
     }
-    open_path(std::filesystem::path(name->toStdWString()));
+    open_path(to_path(*name));
 }
 
 void MainWindow::open_path(const std::filesystem::path& path)
@@ -615,7 +613,7 @@ void MainWindow::open_recent(int index)
     }
     const std::vector<std::string> captions = ShowRecentFiles(m_recent);
     if (index < static_cast<int>(captions.size())) {
-        open_path(std::filesystem::path(recent_file_path(captions[static_cast<std::size_t>(index)])));
+        open_path(recent_file_path(captions[static_cast<std::size_t>(index)]));
     }
 }
 
@@ -624,18 +622,17 @@ void MainWindow::file_save(bool save_as)
     if (!commit_focused_box()) {
         return;
     }
-    std::filesystem::path path(m_session.project_path);
+    std::filesystem::path path = m_session.project_path;
     if (save_as) {
-        const std::optional<QString> name =
-            m_prompter.save_file_name(this, QString::fromStdWString(path.wstring()));
+        const std::optional<QString> name = m_prompter.save_file_name(this, to_qstring(path));
         if (!name) {
             show_message(cancel_message());
             return;
         }
-        path = with_default_extension(std::filesystem::path(name->toStdWString()));
+        path = with_default_extension(to_path(*name));
         std::error_code ec;
         if (std::filesystem::exists(path, ec)) {
-            const Message q = overwrite_question(m_model.language, path.string());
+            const Message q = overwrite_question(m_model.language, path);
             if (!m_prompter.yes_no(this, qs(q.title.empty() ? program_title() : q.title), qs(q.text))) {
                 return;
             }
@@ -663,11 +660,10 @@ void MainWindow::show_recent_files()
 
 void MainWindow::open_document(const std::string& name)
 {
-    const std::filesystem::path path = m_folders.help / name;
+    const std::filesystem::path path = m_folders.help / path_from_utf8(name);
     std::error_code ec;
-    if (!std::filesystem::exists(path, ec) ||
-        !m_prompter.open_document(QString::fromStdWString(path.wstring()))) {
-        show_message(document_missing(m_model.language, path.string()));
+    if (!std::filesystem::exists(path, ec) || !m_prompter.open_document(to_qstring(path))) {
+        show_message(document_missing(m_model.language, path));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "gui/recent_files_settings.h"
 
+#include "drawing/path_qstring.h"
+
 #include <QString>
 
 namespace kvelder {
@@ -18,14 +20,14 @@ RecentFilesSettings::RecentFilesSettings()
 {
 }
 
-std::string RecentFilesSettings::value(int number) const
+std::filesystem::path RecentFilesSettings::value(int number) const
 {
-    return m_settings.value(key(number)).toString().toStdString();
+    return to_path(m_settings.value(key(number)).toString());
 }
 
-void RecentFilesSettings::set_value(int number, const std::string& path)
+void RecentFilesSettings::set_value(int number, const std::filesystem::path& path)
 {
-    m_settings.setValue(key(number), QString::fromStdString(path));
+    m_settings.setValue(key(number), to_qstring(path));
     m_settings.sync();
 }
 

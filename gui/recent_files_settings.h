@@ -12,8 +12,8 @@ class RecentFilesSettings final : public RecentFileStore {
 public:
     RecentFilesSettings();
 
-    std::string value(int number) const override;
-    void set_value(int number, const std::string& path) override;
+    std::filesystem::path value(int number) const override;
+    void set_value(int number, const std::filesystem::path& path) override;
 
 private:
     mutable QSettings m_settings;

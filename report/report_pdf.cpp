@@ -1,6 +1,8 @@
 #include "report/report_pdf.h"
 
+#include "drawing/path_qstring.h"
 #include "drawing/plot_surface.h"
+#include "files/path_text.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -10,10 +12,10 @@
 
 namespace kvelder {
 
-ReportStamp report_stamp(const std::string& source)
+ReportStamp report_stamp(const std::filesystem::path& source)
 {
     const QDateTime now = QDateTime::currentDateTime();
-    return {source, QLocale::system().toString(now.date(), QLocale::ShortFormat).toStdString(),
+    return {utf8_text(source), QLocale::system().toString(now.date(), QLocale::ShortFormat).toStdString(),
             now.time().toString(QStringLiteral("hh:mm:ss")).toStdString()};
 }
 
@@ -21,9 +23,9 @@ std::optional<std::string> write_report_pdf(const Model& m, const std::filesyste
                                             const ReportStamp& stamp, const PrintSession& session)
 {
     // Written beside the old file and renamed over it only when whole.
-    QSaveFile out(QString::fromStdWString(file.wstring()));
+    QSaveFile out(to_qstring(file));
     if (!out.open(QIODevice::WriteOnly)) {
-        return file.string() + ": cannot be written";
+        return utf8_text(file) + ": cannot be written";
     }
     {
         QPdfWriter pdf(&out);
@@ -37,7 +39,7 @@ std::optional<std::string> write_report_pdf(const Model& m, const std::filesyste
         surface.EndDoc();
     }
     if (!out.commit()) {
-        return file.string() + ": cannot be written";
+        return utf8_text(file) + ": cannot be written";
     }
     return std::nullopt;
 }

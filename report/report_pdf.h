@@ -12,7 +12,7 @@ namespace kvelder {
 
 // The stamp of a report made now: the file the beam came from, the machine's
 // short date and the time as "hh:mm:ss".
-ReportStamp report_stamp(const std::string& source);
+ReportStamp report_stamp(const std::filesystem::path& source);
 
 // Writes the printed report of a calculated beam as a PDF on A4 with vector
 // text. What went wrong, if anything; a file that cannot be written is left

@@ -1,5 +1,6 @@
 #include "ui/file_command.h"
 
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "files/setup_file.h"
 #include "ui/input_checks.h"
@@ -27,7 +28,7 @@ fs::path absolute_or_as_is(const fs::path& path)
 
 std::string window_title(const Model& m, const ProjectSession& s)
 {
-    return m.title_suffix + s.project_path;
+    return m.title_suffix + utf8_text(s.project_path);
 }
 
 void mark_unchanged(const Model& m, ProjectSession& s)
@@ -52,8 +53,9 @@ bool has_unsaved_changes(const Model& m, const ProjectSession& s)
 Message save_changes_question(const std::string& language, const ProjectSession& s)
 {
     const std::string title(kProductTitle);
-    return language == "Eng" ? Message{0, title, "Save changes to " + s.project_path + "?"}
-                             : Message{0, title, "Lagre endringene i " + s.project_path + "?"};
+    const std::string path = utf8_text(s.project_path);
+    return language == "Eng" ? Message{0, title, "Save changes to " + path + "?"}
+                             : Message{0, title, "Lagre endringene i " + path + "?"};
 }
 
 Message cancel_message()
@@ -61,12 +63,12 @@ Message cancel_message()
     return Message{0, "", "Cancel were pressed"};
 }
 
-std::string command_line_path(std::string_view argument)
+fs::path command_line_path(std::string_view argument)
 {
     if (argument.size() >= 2 && argument.front() == '"' && argument.back() == '"') {
         argument = argument.substr(1, argument.size() - 2);
     }
-    return std::string(argument);
+    return path_from_utf8(argument);
 }
 
 fs::path with_default_extension(fs::path path)
@@ -97,7 +99,7 @@ std::optional<Message> open_file(Model& m, ProjectSession& s, const fs::path& pa
         return project_message(m.language, *failure);
     }
     const fs::path full = absolute_or_as_is(path);
-    s.project_path = full.string();
+    s.project_path = full;
     s.current_dir = full.parent_path();
     MoveRecentFile(recent, s.project_path);
     return std::nullopt;
@@ -114,7 +116,7 @@ std::optional<Message> save_file(Model& m, ProjectSession& s, const fs::path& pa
     if (const auto failure = save_project(m, full)) {
         return project_message(m.language, *failure);
     }
-    s.project_path = full.string();
+    s.project_path = full;
     s.current_dir = full.parent_path();
     if (save_as) {
         AddRecentFile(recent, s.project_path);

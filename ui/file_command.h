@@ -19,9 +19,9 @@ namespace kvelder {
 // window recalculates after each of them.
 
 struct ProjectSession {
-    std::string project_path = "New file"; // shown in the title
-    std::filesystem::path current_dir;     // where the last dialog was
-    std::vector<std::byte> unchanged;      // project_bytes when last opened, saved or new
+    std::filesystem::path project_path = "New file"; // shown in the title
+    std::filesystem::path current_dir;               // where the last dialog was
+    std::vector<std::byte> unchanged;                // project_bytes when last opened, saved or new
 };
 
 // The window's caption: title_suffix followed by the project path.
@@ -42,9 +42,9 @@ Message save_changes_question(const std::string& language, const ProjectSession&
 // What a cancelled file dialog says.
 Message cancel_message();
 
-// The project named on the command line ("kvelder [PROJECT]"): surrounding
-// double quotes are taken off only where both are there.
-std::string command_line_path(std::string_view argument);
+// The project named on the command line ("kvelder [PROJECT]"), given as UTF-8
+// text: surrounding double quotes are taken off only where both are there.
+std::filesystem::path command_line_path(std::string_view argument);
 
 // A name from the save dialog without an extension gets ".kvel".
 std::filesystem::path with_default_extension(std::filesystem::path path);

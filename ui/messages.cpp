@@ -1,5 +1,6 @@
 #include "ui/messages.h"
 
+#include "files/path_text.h"
 #include "files/project_file.h"
 
 #include <array>
@@ -123,7 +124,7 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
 {
     const bool eng = language == "Eng";
     const std::string file(file_name(note.file));
-    const std::string where = (note.folder / file).string();
+    const std::string where = utf8_text(note.folder / path_from_utf8(file));
     switch (note.kind) {
     case DataFileNote::Kind::Missing:
         return eng ? Message{0, "Data files",
@@ -163,7 +164,7 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
 Message project_message(const std::string& language, const ProjectFailure& failure)
 {
     const bool eng = language == "Eng";
-    const std::string path = failure.path.string();
+    const std::string path = utf8_text(failure.path);
     const std::string detail = failure.detail.empty() ? "" : " (" + failure.detail + ")";
     switch (failure.kind) {
     case ProjectFailure::Kind::FileNotFound:
@@ -178,6 +179,22 @@ Message project_message(const std::string& language, const ProjectFailure& failu
     case ProjectFailure::Kind::Unwritable:
         return eng ? Message{0, "", "Can't save " + path + detail + ". The file on disk is unchanged."}
                    : Message{0, "", "Kan ikke lagre " + path + detail + ". Filen p\u00e5 disken er uendret."};
+    case ProjectFailure::Kind::ReadOnly:
+        return eng ? Message{0, "",
+                             "Can't save " + path + ": the file is read-only. The file on disk is unchanged."}
+                   : Message{0, "",
+                             "Kan ikke lagre " + path +
+                                 ": filen er skrivebeskyttet. Filen p\u00e5 disken er uendret."};
+    case ProjectFailure::Kind::InUse:
+        return eng ? Message{0, "",
+                             "Can't save " + path +
+                                 ": another program has the file open. Close it there and save again. "
+                                 "The file on disk is unchanged."}
+                   : Message{
+                         0, "",
+                         "Kan ikke lagre " + path +
+                             ": et annet program har filen \u00e5pen. Lukk den der og lagre p\u00e5 nytt. "
+                             "Filen p\u00e5 disken er uendret."};
     case ProjectFailure::Kind::TooLong:
         break;
     }
@@ -185,8 +202,9 @@ Message project_message(const std::string& language, const ProjectFailure& failu
                : Message{0, "", "Kan ikke lagre " + path + ": en tekst er for lang for prosjektfilen."};
 }
 
-Message overwrite_question(const std::string& language, const std::string& path)
+Message overwrite_question(const std::string& language, const std::filesystem::path& file)
 {
+    const std::string path = utf8_text(file);
     return language == "Eng" ? Message{0, "", path + " already exists. Do you want to replace it?"}
                              : Message{0, "", path + " finnes allerede. Vil du erstatte den?"};
 }
@@ -204,8 +222,9 @@ Message report_unwritten(const std::string& language, const std::string& why)
                              : Message{0, "", "Rapporten ble ikke skrevet: " + why};
 }
 
-Message document_missing(const std::string& language, const std::string& path)
+Message document_missing(const std::string& language, const std::filesystem::path& file)
 {
+    const std::string path = utf8_text(file);
     return language == "Eng" ? Message{0, "", "Can't open " + path}
                              : Message{0, "", "Kan ikke \u00e5pne " + path};
 }

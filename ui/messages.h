@@ -3,6 +3,7 @@
 #include "files/data_files.h"
 #include "model/message.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -29,10 +30,10 @@ Message data_file_message(const std::string& language, const DataFileNote& note)
 Message project_message(const std::string& language, const ProjectFailure& failure);
 
 // Save As onto a file that is there already.
-Message overwrite_question(const std::string& language, const std::string& path);
+Message overwrite_question(const std::string& language, const std::filesystem::path& path);
 
 // A document of the help menu that is not there or that the desktop cannot open.
-Message document_missing(const std::string& language, const std::string& path);
+Message document_missing(const std::string& language, const std::filesystem::path& path);
 
 // A report asked for while the results do not belong to the input: the last
 // run stopped at its gate, or a box holds a value that failed.

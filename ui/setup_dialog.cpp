@@ -3,6 +3,7 @@
 #include "design/factors.h"
 #include "files/data_files.h"
 #include "files/number_format.h"
+#include "files/path_text.h"
 #include "files/setup_file.h"
 #include "files/text_number.h"
 #include "ui/input_checks.h"
@@ -200,11 +201,24 @@ std::optional<Message> save_setup(Model& m, const std::filesystem::path& folder)
 {
     StoreSetupRow(m);
     const std::filesystem::path path = folder / file_name(DataFile::Setup);
-    if (WriteSetupFile(m.setup, m.decimal_comma, path)) {
+    const std::optional<ReplaceFailure> failed = WriteSetupFile(m.setup, m.decimal_comma, path);
+    if (!failed) {
         return std::nullopt;
     }
-    return m.language == "Eng" ? Message{0, "", "The setup was not saved to " + path.string()}
-                               : Message{0, "", "Oppsettet ble ikke lagret i " + path.string()};
+    const bool eng = m.language == "Eng";
+    std::string why;
+    switch (failed->kind) {
+    case ReplaceFailure::Kind::ReadOnly:
+        why = eng ? ": the file is read-only" : ": filen er skrivebeskyttet";
+        break;
+    case ReplaceFailure::Kind::InUse:
+        why = eng ? ": another program has the file open" : ": et annet program har filen \u00e5pen";
+        break;
+    case ReplaceFailure::Kind::Unwritable:
+        break;
+    }
+    return eng ? Message{0, "", "The setup was not saved to " + utf8_text(path) + why}
+               : Message{0, "", "Oppsettet ble ikke lagret i " + utf8_text(path) + why};
 }
 
 } // namespace kvelder

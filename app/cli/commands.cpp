@@ -7,6 +7,7 @@
 #include "app/cli/result_text.h"
 #include "design/factors.h"
 #include "files/code_page.h"
+#include "files/path_text.h"
 #include "files/start_values.h"
 #include "files/text_lines.h"
 #include "recalc/annex_comparison.h"
@@ -62,23 +63,23 @@ void read_description(Model& m, const fs::path& input)
 {
     const std::optional<std::string> text = read_text_file(input);
     if (!text) {
-        stop(kUsageError, input.string() + ": cannot be read");
+        stop(kUsageError, utf8_text(input) + ": cannot be read");
     }
     nlohmann::json description;
     try {
         description = nlohmann::json::parse(*text);
     } catch (const nlohmann::json::parse_error& e) {
-        stop(kUsageError, input.string() + ": not valid JSON (" + e.what() + ")");
+        stop(kUsageError, utf8_text(input) + ": not valid JSON (" + e.what() + ")");
     }
     if (const auto failed = apply_description(m, description)) {
-        stop(kUsageError, input.string() + ": " + *failed);
+        stop(kUsageError, utf8_text(input) + ": " + *failed);
     }
 }
 
 void read_project(Model& m, const fs::path& input, LoadDialogs& dialogs)
 {
     if (const auto failed = open_project(m, input, dialogs)) {
-        std::string line = input.string() + ": " + trimmed(project_message(m.language, *failed).text);
+        std::string line = utf8_text(input) + ": " + trimmed(project_message(m.language, *failed).text);
         if (failed->kind == ProjectFailure::Kind::NotAProject) {
             line += " (" + failed->detail + ")";
         }
@@ -91,7 +92,7 @@ void start(Model& m, const Options& o, std::ostream& err)
 {
     const fs::path data_dir = o.data_dir.value_or(o.installed_data_dir);
     if (o.data_dir && !fs::is_directory(data_dir)) {
-        stop(kUsageError, "--data-dir " + data_dir.string() + ": no such folder");
+        stop(kUsageError, "--data-dir " + utf8_text(data_dir) + ": no such folder");
     }
     for (const DataFileNote& note : start_up(m, data_dir)) {
         err << "kvelder-cli: " << message_line(data_file_message(m.language, note)) << '\n';
@@ -190,7 +191,7 @@ std::optional<int> unwritten(const Outcome& run, const fs::path& output, std::os
     if (run.calculated) {
         return std::nullopt;
     }
-    err << "kvelder-cli: the beam fails its checks; " << output.string() << " is not written\n";
+    err << "kvelder-cli: the beam fails its checks; " << utf8_text(output) << " is not written\n";
     return report_failure(run.messages, err);
 }
 
@@ -333,7 +334,7 @@ int run_report(const Options& o, std::ostream&, std::ostream& err)
         if (const auto refused = unwritten(run, *o.output, err)) {
             return *refused;
         }
-        const std::string source = o.input ? o.input->string() : "New File";
+        const fs::path source = o.input.value_or("New File");
         if (const auto failed = write_report(*m, *o.output, source, o.detailed)) {
             stop(kUsageError, *failed);
         }

@@ -14,7 +14,8 @@ std::optional<std::string> write_pictures(const Model&, const std::filesystem::p
     return "this build has no pictures";
 }
 
-std::optional<std::string> write_report(const Model&, const std::filesystem::path&, const std::string&, bool)
+std::optional<std::string> write_report(const Model&, const std::filesystem::path&,
+                                        const std::filesystem::path&, bool)
 {
     return "this build has no pictures";
 }

@@ -1,5 +1,7 @@
 #include "app/cli/options.h"
 
+#include "files/path_text.h"
+
 #include <algorithm>
 #include <cctype>
 #include <stdexcept>
@@ -25,7 +27,7 @@ namespace {
 
 bool has_extension(const std::filesystem::path& path, std::string_view extension)
 {
-    std::string e = path.extension().string();
+    std::string e = utf8_text(path.extension());
     std::transform(e.begin(), e.end(), e.begin(), [](unsigned char c) { return std::tolower(c); });
     return e == extension;
 }
@@ -67,11 +69,11 @@ void check_input(const Options& o)
             throw Stop{kUsageError, "save needs -o and a project file name ending in .kvel"};
         }
         if (o.input && !is_description(*o.input)) {
-            throw Stop{kUsageError, o.input->string() + ": save reads beam descriptions (.json) only"};
+            throw Stop{kUsageError, utf8_text(*o.input) + ": save reads beam descriptions (.json) only"};
         }
     }
     if (o.input && !is_description(*o.input) && !is_project(*o.input)) {
-        throw Stop{kUsageError, o.input->string() +
+        throw Stop{kUsageError, utf8_text(*o.input) +
                                     ": only beam descriptions (.json) and project files (.kvel) can be read"};
     }
 }
@@ -110,13 +112,13 @@ Options parse_or_stop(const std::vector<std::string>& args)
             return args[++k];
         };
         if (a == "--data-dir") {
-            o.data_dir = std::filesystem::path(value());
+            o.data_dir = path_from_utf8(value());
         } else if (a == "--text" && o.command == "calc") {
             o.text = true;
         } else if (a == "--detailed" && o.command == "report") {
             o.detailed = true;
         } else if (a == "-o" && (o.command == "save" || o.command == "plot" || o.command == "report")) {
-            o.output = std::filesystem::path(value());
+            o.output = path_from_utf8(value());
         } else if (a == "--size" && o.command == "plot") {
             size_into(value(), o);
         } else if (a == "-n" && o.command == "bench") {
@@ -147,7 +149,7 @@ Options parse_or_stop(const std::vector<std::string>& args)
         } else if (o.input) {
             throw Stop{kUsageError, "only one INPUT may be given"};
         } else {
-            o.input = std::filesystem::path(a);
+            o.input = path_from_utf8(a);
         }
     }
     check_input(o);

@@ -7,7 +7,10 @@
 // as DIR/frmMain.png after the start and its recalculation, and quits.
 
 #include "drawing/headless_platform.h"
+#include "drawing/path_qstring.h"
 #include "files/data_files.h"
+#include "files/path_text.h"
+#include "files/program_folders.h"
 #include "files/start_values.h"
 #include "gui/main_window.h"
 #include "gui/prompter.h"
@@ -34,7 +37,7 @@ namespace fs = std::filesystem;
 
 struct Arguments {
     std::optional<fs::path> screenshots;
-    std::optional<std::string> project;
+    std::optional<std::string> project; // UTF-8, as typed
 };
 
 // The arguments as Qt reads them, in the user's own letters on every platform.
@@ -44,7 +47,7 @@ std::optional<Arguments> parse(const QStringList& arguments)
     for (qsizetype k = 1; k < arguments.size(); ++k) {
         const QString& arg = arguments[k];
         if (arg == "--screenshots" && k + 1 < arguments.size() && !a.screenshots) {
-            a.screenshots = fs::path(arguments[++k].toStdWString());
+            a.screenshots = kvelder::to_path(arguments[++k]);
         } else if (!arg.startsWith("--") && !a.project) {
             a.project = arg.toStdString();
         } else {
@@ -62,12 +65,12 @@ bool wants_screenshots(int argc, char** argv)
 
 bool write_screenshot(QWidget& widget, const fs::path& folder)
 {
-    const fs::path file = folder / (widget.objectName().toStdString() + ".png");
-    if (!widget.grab().save(QString::fromStdWString(file.wstring()), "PNG")) {
-        std::cerr << "kvelder: " << file.string() << ": cannot be written\n";
+    const fs::path file = folder / kvelder::to_path(widget.objectName() + ".png");
+    if (!widget.grab().save(kvelder::to_qstring(file), "PNG")) {
+        std::cerr << "kvelder: " << kvelder::utf8_text(file) << ": cannot be written\n";
         return false;
     }
-    std::cout << file.string() << '\n';
+    std::cout << kvelder::utf8_text(file) << '\n';
     return true;
 }
 
@@ -148,7 +151,7 @@ int main(int argc, char** argv)
         recent = std::make_unique<kvelder::RecentFilesSettings>();
         prompter = std::make_unique<kvelder::DialogPrompter>();
     }
-    const fs::path help = fs::path(QCoreApplication::applicationDirPath().toStdWString()) / "Help";
+    const fs::path help = kvelder::program_dir() / "Help";
     kvelder::MainWindow window(*model, dialogs, *prompter, *recent, {help, {}, data});
     window.show();
     window.begin(notes, args->project);

@@ -1,6 +1,8 @@
 // kvelder-cli's commands that draw: the pictures, the report, and the results
 // and trace files of the golden beams, whose digests Qt's hash reads.
 
+#include "drawing/path_qstring.h"
+#include "files/path_text.h"
 #include "tests/app/cli_run.h"
 
 #include <QCryptographicHash>
@@ -27,11 +29,11 @@ using nlohmann::json;
 TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
 {
     const fs::path folder = scratch_folder() / "pictures";
-    const CliRun r = run({"plot", "-o", folder.string(), "--size", "640x240"});
+    const CliRun r = run({"plot", "-o", utf8_text(folder), "--size", "640x240"});
     ASSERT_EQ(r.exit, 0) << r.err;
     for (const char* name :
          {"Picfelt", "Picegenlast", "Picnyttelast", "Picnyttelast_2", "Picresult", "Picdisp"}) {
-        const QString png = QString::fromStdString((folder / (std::string(name) + ".png")).string());
+        const QString png = to_qstring(folder / (std::string(name) + ".png"));
         EXPECT_EQ(QImageReader(png, "png").size(), QSize(640, 240)) << name;
     }
 
@@ -138,7 +140,7 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
 // byte for byte.
 TEST(CliGolden, ResultsAndTracesStayByteForByte)
 {
-    const fs::path golden = fs::path(KVELDER_GOLDEN_DIR);
+    const fs::path golden = path_from_utf8(KVELDER_GOLDEN_DIR);
     std::map<std::string, std::string> digests; // "beam/file" -> sha256
     std::istringstream listed(file_text(golden / "traces.sha256"));
     for (std::string digest, name; listed >> digest >> name;) {
@@ -146,10 +148,10 @@ TEST(CliGolden, ResultsAndTracesStayByteForByte)
     }
     int beams = 0;
     for (const auto& entry : fs::directory_iterator(golden / "beams")) {
-        const std::string name = entry.path().stem().string();
+        const std::string name = utf8_text(entry.path().stem());
         const fs::path folder = scratch_folder() / "golden" / name;
         fs::remove_all(folder);
-        const CliRun r = run({"calc", entry.path().string()}, folder);
+        const CliRun r = run({"calc", utf8_text(entry.path())}, folder);
         EXPECT_EQ(r.exit, name == "refused" ? 1 : 0) << name;
         EXPECT_EQ(r.out, file_text(golden / "results" / (name + ".json"))) << name;
         for (const char* trace : {"Resultater", "Geometri"}) {

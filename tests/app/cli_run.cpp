@@ -1,6 +1,7 @@
 #include "tests/app/cli_run.h"
 
 #include "app/cli/commands.h"
+#include "files/path_text.h"
 
 #include <fstream>
 #include <iterator>
@@ -34,12 +35,12 @@ std::string description(const std::string& name, const std::string& text)
 {
     const fs::path path = scratch_folder() / name;
     std::ofstream(path) << text;
-    return path.string();
+    return utf8_text(path);
 }
 
 std::string scratch(const std::string& name)
 {
-    return (scratch_folder() / name).string();
+    return utf8_text(scratch_folder() / name);
 }
 
 } // namespace kvelder::test

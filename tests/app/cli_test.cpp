@@ -1,6 +1,7 @@
 // kvelder-cli from the outside: what it prints and how it exits.
 
 #include "app/cli/beam_description.h"
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "tests/app/cli_run.h"
 
@@ -12,6 +13,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace kvelder::test {
@@ -31,7 +33,7 @@ std::string data_folder(const std::string& name, const std::string& from, const 
     std::string materials = file_text(source_data_dir() / "EC5Material.csv");
     materials.replace(materials.find(from), from.size(), to);
     std::ofstream(folder / "EC5Material.csv", std::ios::binary) << materials;
-    return folder.string();
+    return utf8_text(folder);
 }
 
 TEST(CliCalc, ABeamThatFailsACheckExitsOneWithTheProgramsMessage)
@@ -144,10 +146,10 @@ TEST(CliCalc, DataFoldersMissingFilesOrFromWindows)
     // Missing files are reported and the shipped ones used.
     const fs::path empty = scratch_folder() / "empty_data";
     fs::create_directories(empty);
-    CliRun r = run({"calc", "--data-dir", empty.string()});
+    CliRun r = run({"calc", "--data-dir", utf8_text(empty)});
     EXPECT_EQ(r.exit, 0);
     for (const char* file : {"EC5Material.csv", "EC5Profile.csv", "Kveldersetup.csv"}) {
-        EXPECT_NE(r.err.find((empty / file).string()), std::string::npos) << file;
+        EXPECT_NE(r.err.find(utf8_text(empty / file)), std::string::npos) << file;
     }
     EXPECT_EQ(json::parse(r.out)["material"]["name"], "GL30c");
 
@@ -254,6 +256,26 @@ TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
     r = run({"save", description("zero.json", R"({"nf": 2, "ffl_s": [5.0, 0.0]})"), "-o", refused});
     EXPECT_EQ(r.exit, 1);
     EXPECT_FALSE(fs::exists(refused));
+}
+
+// Project names as engineers give them, handed on as UTF-8 as main reads them.
+TEST(CliProject, NamesBeyondTheCodePageAreSavedCalculatedAndNamedInMessages)
+{
+    const fs::path folder = scratch_folder() / "names";
+    fs::remove_all(folder);
+    std::set<std::string> names{"bjelke p\u00e5 loftet.kvel", "B\u201312 \u20ac.kvel", "\u03a9-bjelke.kvel"};
+    for (const std::string& name : names) {
+        const CliRun saved = run({"save", "-o", name}, folder);
+        ASSERT_EQ(saved.exit, 0) << name << saved.err;
+        const CliRun calculated = run({"calc", name}, folder);
+        EXPECT_EQ(calculated.exit, 0) << name << calculated.err;
+        const CliRun gone = run({"calc", "gone " + name}, folder);
+        EXPECT_NE(gone.err.find("gone " + name + ": Can't find file"), std::string::npos) << gone.err;
+    }
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        names.erase(utf8_text(entry.path().filename())); // the trace files are there too
+    }
+    EXPECT_TRUE(names.empty()) << *names.begin();
 }
 
 // A family is chosen before the section form, as in the window: the profile

@@ -2,6 +2,7 @@
 // image of a page.
 
 #include "drawing/paper_plot.h"
+#include "drawing/path_qstring.h"
 #include "drawing/plot_scale.h"
 #include "tests/support/beams.h"
 
@@ -63,7 +64,7 @@ TEST(Paper, LoadsBeamAndDiagramsOnAPage)
 
     // The same drawing through a PDF writer, on two pages: a printer is the
     // same kind of paged surface.
-    const QString pdf = QString::fromStdString((scratch_folder() / "paper.pdf").string());
+    const QString pdf = to_qstring(scratch_folder() / "paper.pdf");
     {
         QPdfWriter writer(pdf);
         writer.setResolution(300);

@@ -3,6 +3,8 @@
 
 #include "files/catalogue.h"
 #include "files/data_files.h"
+#include "files/path_text.h"
+#include "files/program_folders.h"
 #include "files/setup_file.h"
 #include "files/shipped_data.h"
 #include "files/start_values.h"
@@ -17,6 +19,8 @@
 
 namespace kvelder::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 const std::string kSevenHeadLines = "h1\nh2\nh3\nh4\nh5\nh6\nName;Code;S;fm\n";
 
@@ -110,6 +114,22 @@ TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
     fill_data_dir(folder);
     EXPECT_EQ(read_text_file(folder / "Kveldersetup.csv"), "mine");
     EXPECT_EQ(read_text_file(folder / "EC5Material.csv"), std::string(shipped_material_catalogue()));
+}
+
+// An installed program finds its data in <prefix>/share/kvelder beside
+// <prefix>/bin; one run from its build tree has none there.
+TEST(DataFiles, TheInstalledFolderLiesBesideTheProgramsFolder)
+{
+    const fs::path prefix = scratch_folder() / path_from_utf8("installert \u03a9");
+    fs::remove_all(prefix);
+    fs::create_directories(prefix / "bin");
+    EXPECT_FALSE(installed_data_dir(prefix / "bin"));
+    fill_data_dir(prefix / "share" / "kvelder");
+    EXPECT_EQ(installed_data_dir(prefix / "bin"), prefix / "share" / "kvelder");
+
+    const std::optional<fs::path> exe = executable_path();
+    ASSERT_TRUE(exe);
+    EXPECT_EQ(exe->stem(), "files_tests");
 }
 
 TEST(ShippedData, HoldsTheClassesOfTheStandards)

@@ -5,6 +5,7 @@
 
 #include "files/catalogue.h"
 #include "files/code_page.h"
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "files/project_layout.h"
 #include "files/start_values.h"
@@ -19,6 +20,7 @@
 #include <functional>
 #include <iterator>
 #include <limits>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -308,7 +310,7 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     ASSERT_FALSE(WriteProject(*m, path));
     EXPECT_EQ(file_bytes(path), first);
     EXPECT_EQ(first, project_bytes(*m)); // no tail of the old file
-    EXPECT_FALSE(fs::exists(path.string() + ".new"));
+    EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
 
     // The old file is replaced, never written over: a second name for it still
     // shows the old bytes.
@@ -320,13 +322,55 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     EXPECT_EQ(file_bytes(old_name), first);
     EXPECT_NE(file_bytes(path), first);
 
+    // A read-only project is refused before anything is written, by its own
+    // mark: Linux would rename over it, and root could write it anyway.
+    const Bytes replaced = file_bytes(path);
+    fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                    fs::perm_options::remove);
+    m->G.uni_q(1) = 7.5F;
+    const auto read_only = WriteProject(*m, path);
+    fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+    ASSERT_TRUE(read_only);
+    EXPECT_EQ(read_only->kind, ProjectFailure::Kind::ReadOnly);
+    EXPECT_EQ(file_bytes(path), replaced);
+    EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
+    EXPECT_EQ(project_message("Eng", *read_only).text,
+              "Can't save " + utf8_text(path) + ": the file is read-only. The file on disk is unchanged.");
+    EXPECT_EQ(project_message("Nor", *read_only).text,
+              "Kan ikke lagre " + utf8_text(path) +
+                  ": filen er skrivebeskyttet. Filen p\u00e5 disken er uendret.");
+
     m->prosjekt_s.assign(70000, 'x');
     const auto too_long = WriteProject(*m, project_folder() / "long.kvel");
     ASSERT_TRUE(too_long);
     EXPECT_FALSE(fs::exists(project_folder() / "long.kvel"));
     EXPECT_EQ(project_message("Eng", *too_long).text,
-              "Can't save " + (project_folder() / "long.kvel").string() +
+              "Can't save " + utf8_text(project_folder() / "long.kvel") +
                   ": a text of the project record is longer than a project file can hold.");
+}
+
+// Names as engineers give them, with letters outside every single-byte code page.
+TEST(ProjectFile, NamesBeyondTheCodePageAreSavedAndOpenedUnderTheirOwnLetters)
+{
+    const fs::path folder = project_folder() / "names";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    const std::vector<std::string> names{"bjelke p\u00e5 loftet.kvel", "B\u201312 \u20ac.kvel",
+                                         "\u03a9-bjelke.kvel"};
+    auto m = loaded_beam();
+    for (const std::string& name : names) {
+        m->G.uni_q(1) += 1.0F;
+        ASSERT_FALSE(WriteProject(*m, folder / path_from_utf8(name))) << name;
+        auto opened = example_beam();
+        LoadDialogs dialogs;
+        ASSERT_FALSE(ReadProject(*opened, folder / path_from_utf8(name), dialogs)) << name;
+        EXPECT_EQ(opened->G.uni_q(1), m->G.uni_q(1)) << name; // each name its own file
+    }
+    std::set<std::string> listed;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        listed.insert(utf8_text(entry.path().filename()));
+    }
+    EXPECT_EQ(listed, std::set<std::string>(names.begin(), names.end()));
 }
 
 // --- Damaged and missing files --------------------------------------------------

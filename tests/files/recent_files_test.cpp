@@ -2,6 +2,8 @@
 
 #include "files/recent_files.h"
 
+#include "files/path_text.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -16,7 +18,7 @@ MemoryStore store_of(std::initializer_list<std::string> paths)
     MemoryStore s;
     int k = 0;
     for (const std::string& p : paths) {
-        s.keys[++k] = p;
+        s.keys[++k] = path_from_utf8(p);
     }
     return s;
 }
@@ -25,7 +27,7 @@ std::vector<std::string> paths(const MemoryStore& s)
 {
     std::vector<std::string> out;
     for (const std::string& caption : ShowRecentFiles(s)) {
-        out.push_back(recent_file_path(caption));
+        out.push_back(utf8_text(recent_file_path(caption)));
     }
     return out;
 }

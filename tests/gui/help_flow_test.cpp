@@ -59,7 +59,7 @@ TEST_F(HelpFlow, EachHelpButtonOpensItsFormInTheLanguageAndThePatternsNeedTwoSpa
 
 TEST_F(MainWindowFlow, HelpMenuOpensTheDocumentsOfTheHelpFolderOrSaysWhichIsMissing)
 {
-    const fs::path built = KVELDER_HELP_DIR;
+    const fs::path built = path_from_utf8(KVELDER_HELP_DIR);
     help_folder = built;
     start();
     menu("mnuman", "mnuHjelp");

@@ -28,7 +28,7 @@ TEST_F(MainWindowFlow, StartsOnTheExampleOrTheProjectOfTheCommandLineWithOneRun)
     EXPECT_EQ(item("mnurecentfile_1"), "1. " + three);
 
     // A file that is not there leaves the example beam, calculated once.
-    start((m_folder / "gone.kvel").string());
+    start(utf8_text(m_folder / "gone.kvel"));
     EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
     EXPECT_EQ(window->runs(), 1);
     EXPECT_EQ(text("lbl_mom_0"), example_moment);
@@ -207,7 +207,7 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     keys(QKeySequence::Open);
     EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
     EXPECT_EQ(window->windowTitle(), caption);
-    EXPECT_EQ(window->session().project_path, gate.toStdString());
+    EXPECT_EQ(window->session().project_path, to_path(gate));
     EXPECT_EQ(recent.keys, listed);
     EXPECT_EQ(model->ffl_s(2), 4.0F);
 
@@ -216,7 +216,7 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     keys(QKeySequence::Save);
     Model reread;
     LoadDialogs read{};
-    EXPECT_FALSE(ReadProject(reread, gate.toStdString(), read).has_value());
+    EXPECT_FALSE(ReadProject(reread, to_path(gate), read).has_value());
     EXPECT_EQ(reread.prosjekt_s, "Hall & Co");
 
     // Save As onto a file that is there asks first: No keeps it, Yes replaces it.
@@ -227,10 +227,10 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     menu("mnufileitem_3");
     EXPECT_EQ(prompter.questions.last(), qpath(other) + " already exists. Do you want to replace it?");
     EXPECT_EQ(contents(other), "not a project");
-    EXPECT_EQ(window->session().project_path, gate.toStdString());
+    EXPECT_EQ(window->session().project_path, to_path(gate));
     menu("mnufileitem_3");
-    EXPECT_EQ(contents(other), contents(gate.toStdString()));
-    EXPECT_EQ(window->windowTitle().toStdString(), model->title_suffix + other.string());
+    EXPECT_EQ(contents(other), contents(to_path(gate)));
+    EXPECT_EQ(window->windowTitle().toStdString(), model->title_suffix + utf8_text(other));
     menu("mnufileitem_3");
     EXPECT_EQ(prompter.messages.last(), "Cancel were pressed");
 

@@ -1,5 +1,7 @@
-// The recent files in the user's settings: the names under which they are kept.
+// The recent files in the user's settings: the names under which they are kept,
+// and the paths given back letter for letter.
 
+#include "files/path_text.h"
 #include "gui/recent_files_settings.h"
 
 #include <QSettings>
@@ -8,23 +10,30 @@
 namespace kvelder::test {
 namespace {
 
-TEST(RecentFilesSettings, KeptUnderTheApplicationSectionAndKeys)
+TEST(RecentFilesSettings, KeptUnderTheApplicationSectionAndKeysLetterForLetter)
 {
     // The test main keeps the settings in the scratch folder; each run starts from none.
     QSettings(QSettings::NativeFormat, QSettings::UserScope, "Kvelder", "Kvelder").remove("Recent Files");
+    const std::vector<std::string> names{"/projects/bjelke p\u00e5 loftet.kvel",
+                                         "/projects/B\u201312 \u20ac.kvel", "/projects/\u03a9-bjelke.kvel"};
     {
         RecentFilesSettings store;
         EXPECT_TRUE(ShowRecentFiles(store).empty());
-        MoveRecentFile(store, "/projects/hall \u00e5s.kvel");
-        MoveRecentFile(store, "/projects/roof.kvel");
+        for (const std::string& name : names) {
+            MoveRecentFile(store, path_from_utf8(name));
+        }
     }
-    // A later start of the program reads them back.
+    // A later start of the program reads them back, newest first.
     RecentFilesSettings later;
     EXPECT_EQ(ShowRecentFiles(later),
-              (std::vector<std::string>{"1. /projects/roof.kvel", "2. /projects/hall \u00e5s.kvel"}));
+              (std::vector<std::string>{"1. " + names[2], "2. " + names[1], "3. " + names[0]}));
+    for (int k = 1; k <= 3; ++k) {
+        EXPECT_EQ(later.value(k), path_from_utf8(names[static_cast<std::size_t>(3 - k)])) << k;
+    }
+    EXPECT_EQ(recent_file_path(ShowRecentFiles(later)[1]), path_from_utf8(names[1]));
 
     QSettings raw(QSettings::NativeFormat, QSettings::UserScope, "Kvelder", "Kvelder");
-    EXPECT_EQ(raw.value("Recent Files/RecentFile1").toString().toStdString(), "/projects/roof.kvel");
+    EXPECT_EQ(raw.value("Recent Files/RecentFile1").toString(), QString::fromStdString(names[2]));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // need not be. The user's own settings stay out of reach of every test.
 
 #include "drawing/headless_platform.h"
+#include "drawing/path_qstring.h"
 #include "tests/support/beams.h"
 
 #include <QApplication>
@@ -19,7 +20,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     kvelder::without_platform_notes();
     QStandardPaths::setTestModeEnabled(true);
-    const QString settings = QString::fromStdString((kvelder::test::scratch_folder() / "settings").string());
+    const QString settings = kvelder::to_qstring(kvelder::test::scratch_folder() / "settings");
     for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat}) {
         QSettings::setPath(format, QSettings::UserScope, settings);
         QSettings::setPath(format, QSettings::SystemScope, settings);

@@ -3,6 +3,8 @@
 // The main window as the engineer drives it, for flows of keys and clicks:
 // every box and dialog is answered by a script.
 
+#include "drawing/path_qstring.h"
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "files/start_values.h"
 #include "gui/input_box.h"
@@ -119,7 +121,7 @@ private:
 
 inline QString qpath(const fs::path& path)
 {
-    return QString::fromStdString(path.string());
+    return to_qstring(path);
 }
 
 inline std::string contents(const fs::path& path)

@@ -1,6 +1,7 @@
 // The manual and the update information as the build lays them out beside the
 // program, and the tool that lays them out.
 
+#include "files/path_text.h"
 #include "tests/support/beams.h"
 
 #include <QProcess>
@@ -26,7 +27,7 @@ struct Output {
 Output run(const fs::path& program, const QStringList& arguments)
 {
     QProcess process;
-    process.start(QString::fromStdString(program.string()), arguments);
+    process.start(QString::fromStdString(utf8_text(program)), arguments);
     Output r;
     if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit) {
         r.code = process.exitCode();
@@ -37,7 +38,7 @@ Output run(const fs::path& program, const QStringList& arguments)
 
 QString arg(const fs::path& path)
 {
-    return QString::fromStdString(path.string());
+    return QString::fromStdString(utf8_text(path));
 }
 
 // The whole of each document is laid out: its first and last headings are
@@ -47,7 +48,7 @@ TEST(HelpDocuments, EachPdfHoldsItsDocumentToTheEnd)
     for (const auto& [pdf, first, last] :
          {std::tuple{"Kvelder manual.pdf", "Kvelder manual", "The headless command kvelder-cli"},
           {"Kvelder Update information.pdf", "Version 1.3.0", "Help"}}) {
-        const Output text = run("pdftotext", {arg(fs::path(KVELDER_HELP_DIR) / pdf), "-"});
+        const Output text = run("pdftotext", {arg(path_from_utf8(KVELDER_HELP_DIR) / pdf), "-"});
         ASSERT_EQ(text.code, 0) << pdf;
         const auto at_first = text.out.find(first);
         EXPECT_NE(at_first, std::string::npos) << pdf;
@@ -68,7 +69,7 @@ TEST(HelpDocuments, TheToolRefusesWhatItCannotReadOrWriteAndLeavesTheOldFile)
     std::ifstream in(old_pdf);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "old");
 
-    const fs::path manual = fs::path(KVELDER_HELP_SOURCES) / "manual.md";
+    const fs::path manual = path_from_utf8(KVELDER_HELP_SOURCES) / "manual.md";
     EXPECT_EQ(run(tool, {arg(manual), arg(folder / "no folder" / "out.pdf")}).code, 2);
     EXPECT_EQ(run(tool, {arg(manual)}).code, 2);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1);

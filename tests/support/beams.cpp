@@ -1,6 +1,7 @@
 #include "tests/support/beams.h"
 
 #include "analysis/points.h"
+#include "files/path_text.h"
 #include "files/start_values.h"
 #include "recalc/main_calc.h"
 #include "recalc/run_analysis.h"
@@ -112,7 +113,7 @@ void recalculate(Model& m)
 
 std::filesystem::path source_data_dir()
 {
-    return KVELDER_SOURCE_DATA_DIR;
+    return path_from_utf8(KVELDER_SOURCE_DATA_DIR);
 }
 
 std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)

@@ -1,6 +1,7 @@
 // The file menu: what open, save and new leave in the session, the recent
 // files and on disk.
 
+#include "files/path_text.h"
 #include "files/project_file.h"
 #include "recalc/main_calc.h"
 #include "tests/support/beams.h"
@@ -23,7 +24,7 @@ Paths paths(const RecentFilesInMemory& s)
 {
     Paths out;
     for (const std::string& caption : ShowRecentFiles(s)) {
-        out.push_back(recent_file_path(caption));
+        out.push_back(utf8_text(recent_file_path(caption)));
     }
     return out;
 }
@@ -51,7 +52,7 @@ std::string contents(const fs::path& path)
 TEST(FileCommand, SaveAndOpenTakeThePathItsFolderAndMoveItToTheFront)
 {
     const fs::path folder = empty_folder("file_command_flow");
-    const std::string a = (folder / "a.kvel").string();
+    const fs::path a = folder / "a.kvel";
     RecentFilesInMemory recent;
     auto m = example_beam();
     recalculated(*m);
@@ -67,7 +68,8 @@ TEST(FileCommand, SaveAndOpenTakeThePathItsFolderAndMoveItToTheFront)
     LoadDialogs dialogs;
     ASSERT_FALSE(open_file(*opened, t, a, dialogs, recent));
     EXPECT_EQ(t.current_dir, folder);
-    EXPECT_EQ(paths(recent), (Paths{a})); // Save and Open find it listed, and add it no second time
+    EXPECT_EQ(paths(recent),
+              (Paths{utf8_text(a)})); // Save and Open find it listed, and add it no second time
 }
 
 TEST(FileCommand, ARefusedOrFailedSaveLeavesFileAndSessionAsTheyWere)
@@ -126,7 +128,7 @@ TEST(FileCommand, ANewProjectIsSavedUnderItsNameInTheCurrentFolder)
     recalculated(*m);
     ASSERT_FALSE(save_file(*m, s, s.project_path, false, recent));
     EXPECT_TRUE(fs::exists(folder / "New File"));
-    EXPECT_EQ(s.project_path, (folder / "New File").string());
+    EXPECT_EQ(s.project_path, folder / "New File");
 }
 
 TEST(FileCommand, NamesFromTheCommandLineAndTheSaveDialog)
