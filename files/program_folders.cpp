@@ -62,4 +62,9 @@ std::optional<fs::path> installed_data_dir(const fs::path& program_dir)
     return std::nullopt;
 }
 
+fs::path help_dir(const fs::path& program_dir)
+{
+    return installed_data_dir(program_dir).value_or(program_dir) / "Help";
+}
+
 } // namespace kvelder

@@ -17,4 +17,8 @@ std::filesystem::path program_dir();
 // program that runs from its build tree.
 std::optional<std::filesystem::path> installed_data_dir(const std::filesystem::path& program_dir);
 
+// The folder of the manual and the update information: "Help" in the installed
+// data folder, or beside a program that runs from its build tree.
+std::filesystem::path help_dir(const std::filesystem::path& program_dir);
+
 } // namespace kvelder

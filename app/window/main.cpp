@@ -151,7 +151,7 @@ int main(int argc, char** argv)
         recent = std::make_unique<kvelder::RecentFilesSettings>();
         prompter = std::make_unique<kvelder::DialogPrompter>();
     }
-    const fs::path help = kvelder::program_dir() / "Help";
+    const fs::path help = kvelder::help_dir(kvelder::program_dir());
     kvelder::MainWindow window(*model, dialogs, *prompter, *recent, {help, {}, data});
     window.show();
     window.begin(notes, args->project);
