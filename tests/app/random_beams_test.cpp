@@ -11,8 +11,8 @@
 #include <QCryptographicHash>
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -29,11 +29,11 @@ namespace fs = std::filesystem;
 
 constexpr int kBeams = 300;
 
+// to_chars, unlike snprintf, writes the point whatever locale Qt has set.
 std::string text(double v)
 {
     char buffer[32];
-    std::snprintf(buffer, sizeof buffer, "%.2f", v);
-    return buffer;
+    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, v, std::chars_format::fixed, 2).ptr};
 }
 
 // Draws from the standard engine by hand: the library's distributions may
