@@ -26,9 +26,10 @@ void NewProjectHeading(Model& m);
 void StartProject(Model& m);
 
 // The start of the program without its window: the decimal separator of this
-// machine (DecimalProbe), the setup and the catalogues of `data_folder`, the example beam and its grids.
-// The model is left ready for its first recalculation, with loading_flag set.
-// The notes tell which data files gave way to the shipped copies.
+// machine (DecimalProbe), the setup and the catalogues of `data_folder`, the
+// example beam and its grids. The model is left ready for its first
+// recalculation, with loading_flag set. The notes tell which data files gave
+// way to the shipped copies.
 std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder);
 
 // The same start on a machine of the given decimal separator (0 for the
