@@ -89,7 +89,13 @@ void StartProject(Model& m)
 
 std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder)
 {
-    m.decimal_comma = DecimalProbe();
+    return start_up(m, data_folder, DecimalProbe());
+}
+
+std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder,
+                                   std::int16_t decimal_comma)
+{
+    m.decimal_comma = decimal_comma;
     std::vector<DataFileNote> notes = ReadDataFiles(m, data_folder);
     ApplySetupRow(m);
     StartProject(m);

@@ -3,6 +3,7 @@
 #include "files/data_files.h"
 #include "model/model.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <vector>
 
@@ -24,10 +25,16 @@ void NewProjectHeading(Model& m);
 // its heading and grids, ready for its first recalculation with loading_flag set.
 void StartProject(Model& m);
 
-// The start of the program without its window: the decimal separator, the
-// setup and the catalogues of `data_folder`, the example beam and its grids.
-// The model is left ready for its first recalculation, with loading_flag set.
-// The notes tell which data files gave way to the shipped copies.
+// The start of the program without its window: the decimal separator of this
+// machine (DecimalProbe), the setup and the catalogues of `data_folder`, the
+// example beam and its grids. The model is left ready for its first
+// recalculation, with loading_flag set. The notes tell which data files gave
+// way to the shipped copies.
 std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder);
+
+// The same start on a machine of the given decimal separator (0 for the
+// point, as in `decimal_comma`), whatever this machine's is.
+std::vector<DataFileNote> start_up(Model& m, const std::filesystem::path& data_folder,
+                                   std::int16_t decimal_comma);
 
 } // namespace kvelder

@@ -7,6 +7,18 @@
 #include <cstring>
 #include <limits>
 #include <locale>
+#include <stdexcept>
+#include <string_view>
+
+#ifdef _WIN32
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#endif
 
 namespace kvelder {
 namespace {
@@ -80,12 +92,22 @@ std::optional<float> to_single(std::optional<double> v)
 
 std::int16_t DecimalProbe()
 {
+#ifdef _WIN32
+    // The C++ library of the Windows build knows only the "C" locale: ask the
+    // user's regional settings themselves.
+    wchar_t separator[8] = {};
+    if (GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, separator, 8) == 0) {
+        return 0;
+    }
+    return std::wstring_view(separator) == L"." ? 0 : 1;
+#else
     try {
         const std::locale user("");
         return std::use_facet<std::numpunct<char>>(user).decimal_point() == '.' ? 0 : 1;
     } catch (const std::runtime_error&) {
         return 0; // no usable locale in the environment: the C convention
     }
+#endif
 }
 
 Converted<float> TextToNumber(std::string_view typed, std::int16_t decimal_comma)

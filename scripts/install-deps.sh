@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need. Safe to run again:
-# when every package is already there it returns without touching apt.
+# Installs the Debian packages that building and testing need, and generates the
+# locale nb_NO.UTF-8. Safe to run again: when every package and the locale are
+# already there it returns without touching apt.
 set -euo pipefail
 
 packages=(
@@ -14,6 +15,8 @@ packages=(
   fonts-liberation fontconfig
   # the report tests read PDFs back: pdftotext, pdftoppm
   poppler-utils
+  # the tests run once more under nb_NO.UTF-8, whose decimal separator is a comma
+  locales
 )
 
 # scripts/install-deps.sh windows: also the cross compiler and wine of scripts/test-windows.sh.
@@ -28,13 +31,21 @@ for p in "${packages[@]}"; do
   fi
 done
 
-if [ ${#missing[@]} -eq 0 ]; then
+has_nb_locale() { locale -a 2>/dev/null | grep -ix 'nb_NO.utf-\?8' >/dev/null; }
+if [ ${#missing[@]} -eq 0 ] && has_nb_locale; then
   exit 0
 fi
 
-echo "Installing: ${missing[*]}"
 sudo_cmd=()
 if [ "$(id -u)" -ne 0 ]; then sudo_cmd=(sudo); fi
-export DEBIAN_FRONTEND=noninteractive
-"${sudo_cmd[@]}" apt-get update -qq
-"${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  "${sudo_cmd[@]}" apt-get update -qq
+  "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
+if ! has_nb_locale; then
+  echo "Generating the locale nb_NO.UTF-8"
+  echo 'nb_NO.UTF-8 UTF-8' | "${sudo_cmd[@]}" tee -a /etc/locale.gen >/dev/null
+  "${sudo_cmd[@]}" locale-gen
+fi

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <stdexcept>
 
 namespace kvelder::cli {
@@ -134,13 +135,10 @@ Options parse_or_stop(const std::vector<std::string>& args)
             }
         } else if (a == "--step" && o.command == "size") {
             const std::string& mm = value();
-            try {
-                std::size_t used = 0;
-                o.height_step = std::stof(mm, &used);
-                if (used != mm.size() || !(o.height_step >= 1 && o.height_step <= 1000)) {
-                    throw std::invalid_argument(mm);
-                }
-            } catch (const std::logic_error&) {
+            // from_chars, unlike stof, reads "2.5" whatever locale Qt has set.
+            const char* const last = mm.data() + mm.size();
+            const auto [end, ec] = std::from_chars(mm.data(), last, o.height_step);
+            if (ec != std::errc{} || end != last || !(o.height_step >= 1 && o.height_step <= 1000)) {
                 throw Stop{kUsageError,
                            "--step needs the step of the heights in mm, 1 to 1000, not \"" + mm + "\""};
             }

@@ -18,8 +18,11 @@ ordered_json single(float value)
     }
     char buffer[32];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    // The double nearest to the shortest text prints as that text again.
-    return std::stod(std::string(buffer, end));
+    // The double nearest to the shortest text prints as that text again. Read
+    // back by from_chars, which, unlike stod, ignores the locale Qt has set.
+    double nearest = 0;
+    std::from_chars(buffer, end, nearest);
+    return nearest;
 }
 
 ordered_json messages_json(const std::vector<Message>& messages)

@@ -4,16 +4,17 @@
 #include "drawing/path_qstring.h"
 #include "files/path_text.h"
 #include "tests/app/cli_run.h"
+#include "tests/support/process.h"
 
 #include <QCryptographicHash>
 #include <QImage>
 #include <QImageReader>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <fstream>
 #include <iterator>
@@ -47,19 +48,21 @@ TEST(CliPlot, SixPicturesNamedAfterTheirBoxes)
 // The words and numbers of a PDF, as pdftotext reads them: the text is vector text.
 std::vector<std::string> pdf_words(const std::string& pdf)
 {
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QString::fromStdString(pdf), QStringLiteral("-")});
-    EXPECT_TRUE(reader.waitForFinished(30000)) << "pdftotext";
-    std::istringstream text(reader.readAllStandardOutput().toStdString());
+    const ProcessResult reader = run_program("pdftotext", {pdf, "-"}, scratch_folder());
+    EXPECT_EQ(reader.exit, 0) << "pdftotext: " << reader.err;
+    std::istringstream text(reader.out);
     return {std::istream_iterator<std::string>(text), {}};
 }
 
+// The report writes the separator of the machine it runs on, a point or a
+// comma; from_chars, unlike strtod, ignores the locale Qt has set.
 bool holds_number(const std::vector<std::string>& words, double value)
 {
-    return std::any_of(words.begin(), words.end(), [value](const std::string& w) {
-        char* end = nullptr;
-        const double v = std::strtod(w.c_str(), &end);
-        return end != w.c_str() && *end == '\0' && std::abs(v - value) < 0.0051;
+    return std::any_of(words.begin(), words.end(), [value](std::string w) {
+        std::replace(w.begin(), w.end(), ',', '.');
+        double v = 0;
+        const auto [end, ec] = std::from_chars(w.data(), w.data() + w.size(), v);
+        return ec == std::errc{} && end == w.data() + w.size() && std::abs(v - value) < 0.0051;
     });
 }
 
@@ -96,9 +99,8 @@ TEST(CliReport, ThePdfHoldsWhatCalcGives)
         }
         // Each page, rendered, has ink, and none in a band along the paper's edges.
         const QString base = QString::fromStdString(scratch("page"));
-        QProcess::execute(QStringLiteral("pdftoppm"),
-                          {QStringLiteral("-r"), QStringLiteral("20"), QStringLiteral("-png"),
-                           QString::fromStdString(scratch("report.pdf")), base});
+        run_program("pdftoppm", {"-r", "20", "-png", scratch("report.pdf"), scratch("page")},
+                    scratch_folder());
         for (int page = 1; page <= pages; ++page) {
             const QImage image(base + QStringLiteral("-%1.png").arg(page));
             ASSERT_FALSE(image.isNull()) << input << " page " << page;

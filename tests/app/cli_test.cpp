@@ -4,12 +4,13 @@
 #include "files/path_text.h"
 #include "files/project_file.h"
 #include "tests/app/cli_run.h"
-
-#include <QProcess>
+#include "tests/support/process.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <charconv>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -294,19 +295,22 @@ TEST(CliCalc, AFamilyThenACircleCalculatesTheCircle)
 }
 
 // The program itself, once: what main adds to run_cli is the data folder it
-// finds and the exit code it passes on.
+// finds and the exit code it passes on. A path of blanks, quotes and a letter
+// beyond ASCII reaches it whole.
 TEST(CliBinary, CalculatesTheExampleAndRefusesAnUnknownCommand)
 {
-    QProcess cli;
-    cli.setWorkingDirectory(QString::fromStdString(scratch_folder().string()));
-    cli.start(KVELDER_CLI, {"calc", "--text"});
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    EXPECT_EQ(cli.exitCode(), 0);
-    EXPECT_TRUE(cli.readAllStandardOutput().contains("Material GL30c"));
-    cli.start(KVELDER_CLI, {"draw"});
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    EXPECT_EQ(cli.exitCode(), 2);
-    EXPECT_TRUE(cli.readAllStandardError().contains("unknown command"));
+    ProcessResult r = run_program(KVELDER_CLI, {"calc", "--text"}, scratch_folder());
+    EXPECT_EQ(r.exit, 0) << r.err;
+    EXPECT_NE(r.out.find("Material GL30c"), std::string::npos) << r.out;
+    r = run_program(KVELDER_CLI, {"draw"}, scratch_folder());
+    EXPECT_EQ(r.exit, 2);
+    EXPECT_NE(r.err.find("unknown command"), std::string::npos) << r.err;
+
+    const fs::path odd = scratch_folder() / fs::path(u8"bjelke p\u00e5 'loft'.json");
+    std::ofstream(odd) << R"({"ffl_s": [4.0, 6.0]})";
+    const std::u8string utf8 = odd.u8string();
+    r = run_program(KVELDER_CLI, {"calc", std::string(utf8.begin(), utf8.end())}, scratch_folder());
+    EXPECT_EQ(r.exit, 0) << r.err;
 }
 
 // The largest usage factor that calc gives a beam, and its section's area.

@@ -56,20 +56,27 @@ TEST(LoadBands, EachBandStandsOnTheOnesBelowIt)
 
 TEST(ResultLabels, MomentPeaksEndsAndZeroCrossings)
 {
-    const auto m = calculated(example_beam()); // two spans of 5 m, total load
-    const auto lower = texts(marks_of(*m, Diagram::Moment, false));
-    // One sagging peak in each span, and the two points where the moment comes back to 0.
-    EXPECT_EQ(std::count(lower.begin(), lower.end(), "-12.1"), 2);
-    EXPECT_EQ(std::count(lower.begin(), lower.end(), "x ="), 2);
-    const auto upper = texts(marks_of(*m, Diagram::Moment, true));
-    EXPECT_EQ(std::count(upper.begin(), upper.end(), "21.6"), 1); // the left end of span 2 only
-    EXPECT_EQ(std::count(upper.begin(), upper.end(), "x ="), 2);
-    // The crossings lie on the grid points beside 3.75 m and 1.25 m.
-    EXPECT_NE(std::find(upper.begin(), upper.end(), "3.700"), upper.end());
-    EXPECT_NE(std::find(lower.begin(), lower.end(), "3.800"), lower.end());
-    // Every value label has its drop line.
-    const CurveMarks marks = marks_of(*m, Diagram::Moment, false);
-    EXPECT_EQ(marks.strokes.size(), 2U + 2U); // two drop lines, two crossing ticks
+    for (const std::int16_t machine : {kPointMachine, kCommaMachine}) {
+        const auto m = calculated(example_beam(machine)); // two spans of 5 m, total load
+        // The labels are written in the machine's separator.
+        const auto shown = [machine](std::string text) {
+            std::replace(text.begin(), text.end(), '.', machine == kCommaMachine ? ',' : '.');
+            return text;
+        };
+        const auto lower = texts(marks_of(*m, Diagram::Moment, false));
+        // One sagging peak in each span, and the two points where the moment comes back to 0.
+        EXPECT_EQ(std::count(lower.begin(), lower.end(), shown("-12.1")), 2);
+        EXPECT_EQ(std::count(lower.begin(), lower.end(), "x ="), 2);
+        const auto upper = texts(marks_of(*m, Diagram::Moment, true));
+        EXPECT_EQ(std::count(upper.begin(), upper.end(), shown("21.6")), 1); // the left end of span 2 only
+        EXPECT_EQ(std::count(upper.begin(), upper.end(), "x ="), 2);
+        // The crossings lie on the grid points beside 3.75 m and 1.25 m.
+        EXPECT_NE(std::find(upper.begin(), upper.end(), shown("3.700")), upper.end());
+        EXPECT_NE(std::find(lower.begin(), lower.end(), shown("3.800")), lower.end());
+        // Every value label has its drop line.
+        const CurveMarks marks = marks_of(*m, Diagram::Moment, false);
+        EXPECT_EQ(marks.strokes.size(), 2U + 2U); // two drop lines, two crossing ticks
+    }
 }
 
 // Curves of known values on a beam of two spans of 4 m.

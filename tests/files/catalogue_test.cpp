@@ -100,7 +100,7 @@ TEST(DataFiles, AShortCatalogueStartsTheExampleBeamOnRowsItHas)
     std::ofstream(folder / "EC5Profile.csv")
         << kSevenHeadLines << "a;L;S;90;180\nb;L;S;90;225\nc;L;S;90;270\n";
     Model m;
-    start_up(m, folder);
+    start_up(m, folder, kPointMachine);
     EXPECT_EQ(m.material_row, 0);
     EXPECT_EQ(m.prof_index, 2); // the middle of three, rounded half to even
     EXPECT_EQ(m.section_h, 270.0F);

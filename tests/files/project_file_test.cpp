@@ -265,6 +265,12 @@ TEST(ProjectFile, TheBeamComesBackAsItWasSavedAndTheReaderKeepsItsOldDecisions)
     EXPECT_EQ(dialogs[0].frames[1][0][4], "3.50");
     EXPECT_EQ(dialogs[1].frames[3][0][1], "-3.00");
     EXPECT_EQ(dialogs[2].frames[2][0][0], "2");
+    // A comma machine shows them with its separator.
+    auto on_comma = example_beam(kCommaMachine);
+    LoadDialogs shown;
+    ASSERT_FALSE(ReadProjectBytes(*on_comma, b, shown));
+    EXPECT_EQ(shown[0].frames[0][1][1], "1,50");
+    EXPECT_EQ(shown[1].frames[3][0][1], "-3,00");
 
     // Bearing data stay those of the beam before.
     EXPECT_EQ(m->bearing_length(2), 90.0F);

@@ -138,7 +138,8 @@ protected:
         fs::create_directories(m_folder);
     }
 
-    // The window as the program starts it, on the data folder of the sources.
+    // The window as the program starts it, on the data folder of the sources
+    // and on a point machine whatever this one is.
     void start(const std::optional<std::string>& project = {})
     {
         window.reset();
@@ -151,7 +152,7 @@ protected:
         if (!fs::exists(data)) {
             fs::copy(source_data_dir(), data);
         }
-        const std::vector<DataFileNote> notes = start_up(*model, data);
+        const std::vector<DataFileNote> notes = start_up(*model, data, kPointMachine);
         dialogs = load_dialogs(*model);
         window = std::make_unique<MainWindow>(*model, dialogs, prompter, recent,
                                               WindowFolders{help_folder, m_folder, data});

@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
+#include <cstdint>
+#include <random>
+#include <string>
 
 namespace kvelder::test {
 
@@ -82,13 +84,17 @@ void add_moment(LoadGroup& g, int span, float M, float a)
 
 namespace {
 
-// A folder that lives as long as the test process.
+// A folder that lives as long as the test process, of a name no other
+// process has taken: ctest runs tests in processes of their own side by side.
 struct TemporaryFolder {
     std::filesystem::path path;
     TemporaryFolder()
-        : path(std::filesystem::temp_directory_path() / ("kvelder-tests-" + std::to_string(::getpid())))
     {
-        std::filesystem::create_directories(path);
+        std::random_device random;
+        std::uniform_int_distribution<std::uint64_t> any;
+        do {
+            path = std::filesystem::temp_directory_path() / ("kvelder-tests-" + std::to_string(any(random)));
+        } while (!std::filesystem::create_directory(path));
     }
     ~TemporaryFolder()
     {
@@ -124,10 +130,10 @@ std::unique_ptr<Model> calculated(std::unique_ptr<Model> m)
     return m;
 }
 
-std::unique_ptr<Model> example_beam()
+std::unique_ptr<Model> example_beam(std::int16_t decimal_comma)
 {
     auto m = std::make_unique<Model>();
-    start_up(*m, source_data_dir());
+    start_up(*m, source_data_dir(), decimal_comma);
     return m;
 }
 

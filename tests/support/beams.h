@@ -2,6 +2,7 @@
 
 #include "model/model.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <initializer_list>
 #include <memory>
@@ -36,8 +37,13 @@ const std::filesystem::path& scratch_folder();
 // Builds the calculation grids and runs the analysis on the factors as set.
 void recalculate(Model& m);
 
+// The decimal separators of `decimal_comma`. The test beams start on the one
+// their test names, never on that of the machine the tests run on.
+constexpr std::int16_t kPointMachine = 0;
+constexpr std::int16_t kCommaMachine = 1;
+
 // The example beam of start-up, read from the data files of the source tree.
-std::unique_ptr<Model> example_beam();
+std::unique_ptr<Model> example_beam(std::int16_t decimal_comma = kPointMachine);
 
 // The example beam grown to three spans (4, 5 and 6 m) from a built-in left
 // end to a free right end, with rows in every load table of every group, self

@@ -9,6 +9,7 @@
 
 #include <cctype>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace kvelder::test {
@@ -166,13 +167,14 @@ TEST(ReadRows, PacksAndConvertsTheRowsAndChecksEachAsItIsStored)
         EXPECT_EQ(failure->code, 112);
     }
 
-    // A box that is no number on a comma machine.
-    m->decimal_comma = 1;
-    texts = dialog({{"1", "2,5"}, {"2", "two"}});
+    // A box that is no number on a comma machine, after one rewritten for it.
+    m = example_beam(kCommaMachine);
+    texts = dialog({{"1", "2.5"}, {"2", "two"}});
     const auto failure = ReadRows(*m, LoadGroupId::G, texts);
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(*failure, (LoadRowFailure{LoadGroupId::G, LoadTable::Uniform, 2, 1, kNotANumber}));
     EXPECT_EQ(failure_message("Eng", *failure)->text, "The text is not a number");
+    EXPECT_EQ(texts.frames[0][0][1], "2,5");
 }
 
 TEST(ReadRows, TheFirstFailureStoresItsRowAndLeavesTheLaterFramesAsTheyWere)
@@ -190,23 +192,25 @@ TEST(ReadRows, TheFirstFailureStoresItsRowAndLeavesTheLaterFramesAsTheyWere)
 
 TEST(ClipLoadsToSpans, DropsRowsThatStartBeyondTheirSpanAndEndsTrapezoidsAtIt)
 {
-    auto m = example_beam();
-    m->ffl_s(1) = 3.0F;
-    LoadDialogTexts t;
-    t.frames[1] = {{"1", "1", "2", "1.5", "4"}, {"1", "1", "2", "3", "4"}, {"2", "1", "2", "3", "4"}};
-    t.frames[2] = {{"1", "5", "3"}, {"1", "5", "2.9"}, {"7", "5", "9"}};
-    t.frames[3] = {{"1", "5", "3.5"}};
-    ClipLoadsToSpans(*m, t);
-    EXPECT_EQ(t.frames[1][0][0], "1");
-    EXPECT_EQ(t.frames[1][0][4], "3.000");
-    EXPECT_EQ(t.frames[1][1][0], "");  // starts at the end
-    EXPECT_EQ(t.frames[1][2][4], "4"); // span 2 is still 5 m long
-    EXPECT_EQ(t.frames[2][0][0], "");
-    EXPECT_EQ(t.frames[2][1][0], "1");
-    EXPECT_EQ(t.frames[2][2][0], "7"); // not a span of the beam: the reading will say so
-    EXPECT_EQ(t.frames[3][0][0], "");
-    // The reading's second point row, should it fail, is the dialog's third.
-    EXPECT_EQ(dialog_row(t, LoadTable::Point, 2), 2);
+    for (const auto& [machine, end] : {std::pair{kPointMachine, "3.000"}, {kCommaMachine, "3,000"}}) {
+        auto m = example_beam(machine);
+        m->ffl_s(1) = 3.0F;
+        LoadDialogTexts t;
+        t.frames[1] = {{"1", "1", "2", "1.5", "4"}, {"1", "1", "2", "3", "4"}, {"2", "1", "2", "3", "4"}};
+        t.frames[2] = {{"1", "5", "3"}, {"1", "5", "2.9"}, {"7", "5", "9"}};
+        t.frames[3] = {{"1", "5", "3.5"}};
+        ClipLoadsToSpans(*m, t);
+        EXPECT_EQ(t.frames[1][0][0], "1");
+        EXPECT_EQ(t.frames[1][0][4], end); // in the machine's separator
+        EXPECT_EQ(t.frames[1][1][0], "");  // starts at the end
+        EXPECT_EQ(t.frames[1][2][4], "4"); // span 2 is still 5 m long
+        EXPECT_EQ(t.frames[2][0][0], "");
+        EXPECT_EQ(t.frames[2][1][0], "1");
+        EXPECT_EQ(t.frames[2][2][0], "7"); // not a span of the beam: the reading will say so
+        EXPECT_EQ(t.frames[3][0][0], "");
+        // The reading's second point row, should it fail, is the dialog's third.
+        EXPECT_EQ(dialog_row(t, LoadTable::Point, 2), 2);
+    }
 }
 
 } // namespace
