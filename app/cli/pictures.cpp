@@ -68,7 +68,7 @@ std::optional<std::string> write_pictures(const Model& m, const std::filesystem:
 }
 
 std::optional<std::string> write_report(const Model& m, const std::filesystem::path& file,
-                                        const std::string& source, bool detailed)
+                                        const std::filesystem::path& source, bool detailed)
 {
     const PictureApplication app;
     return write_report_pdf(m, file, report_stamp(source), PrintSession{detailed});

@@ -21,6 +21,6 @@ std::optional<std::string> write_pictures(const Model& m, const std::filesystem:
 // Writes the printed report of a calculated beam as a PDF, its pages stamped
 // with the file `source` and the time now. What went wrong, if anything.
 std::optional<std::string> write_report(const Model& m, const std::filesystem::path& file,
-                                        const std::string& source, bool detailed);
+                                        const std::filesystem::path& source, bool detailed);
 
 } // namespace kvelder::cli
