@@ -1,6 +1,7 @@
 // kvelder-cli from the outside: what it prints and how it exits.
 
 #include "app/cli/beam_description.h"
+#include "app/cli/pictures.h"
 #include "files/path_text.h"
 #include "files/project_file.h"
 #include "tests/app/cli_run.h"
@@ -311,6 +312,22 @@ TEST(CliBinary, CalculatesTheExampleAndRefusesAnUnknownCommand)
     const std::u8string utf8 = odd.u8string();
     r = run_program(KVELDER_CLI, {"calc", std::string(utf8.begin(), utf8.end())}, scratch_folder());
     EXPECT_EQ(r.exit, 0) << r.err;
+}
+
+// A build without Qt draws nothing: plot and report say so before they read a
+// beam, and write nothing. A build with Qt draws (cli_picture_tests).
+TEST(CliBinary, WithoutQtPlotAndReportSayThereAreNoPictures)
+{
+    if (cli::has_pictures()) {
+        GTEST_SKIP() << "this build has pictures";
+    }
+    for (const auto& [command, output] : {std::pair{"plot", "pictures"}, {"report", "report.pdf"}}) {
+        fs::remove_all(scratch(output));
+        const CliRun r = run({command, "-o", scratch(output)});
+        EXPECT_EQ(r.exit, 2) << command;
+        EXPECT_NE(r.err.find("this build has no pictures"), std::string::npos) << r.err;
+        EXPECT_FALSE(fs::exists(scratch(output))) << command;
+    }
 }
 
 // The largest usage factor that calc gives a beam, and its section's area.
