@@ -25,6 +25,12 @@ AnnexTable annex_table(const std::vector<const Model*>& beams, const std::vector
         t.rows.push_back(std::move(r));
     };
     const auto number = [](double v, const char* pattern = "0.00") { return format_number(v, pattern); };
+    // The load factors of the expression in force, which differ by annex.
+    const bool a = beams.front()->comb_rule == "610a";
+    const std::string expression = a ? " (6.10a)" : " (6.10b)";
+    row("gamma_G" + expression, [&](const Model& m) { return number(a ? m.gamma_G_a : m.gamma_G_b); });
+    row("gamma_Q1" + expression, [&](const Model& m) { return number(a ? m.gamma_Q1_a : m.gamma_Q1_b); });
+    row("gamma_Q2" + expression, [&](const Model& m) { return number(a ? m.gamma_Q2_a : m.gamma_Q2_b); });
     row("gamma_M", [&](const Model& m) { return number(m.gamma_M); });
     row("kmod", [&](const Model& m) { return number(m.kmod); });
     row("kcr", [&](const Model& m) { return number(m.kcr); });

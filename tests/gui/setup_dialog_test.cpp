@@ -70,8 +70,13 @@ TEST_F(SetupDialogFlow, ACountryTakesEffectOnOkAndTheSavedSetupWithItsLanguageIs
     ASSERT_NE(annexes, nullptr);
     auto* grid = annexes->findChild<QTableWidget*>("Grid_tillegg");
     ASSERT_EQ(grid->columnCount(), 3);
-    EXPECT_EQ(grid->item(0, 0)->text(), "1.15"); // Norway as its row stands
-    EXPECT_EQ(grid->item(0, 2)->text(), "1.40"); // the recommended values as edited
+    int gamma_M = 0;
+    while (gamma_M < grid->rowCount() && grid->verticalHeaderItem(gamma_M)->text() != "gamma_M") {
+        ++gamma_M;
+    }
+    ASSERT_LT(gamma_M, grid->rowCount());
+    EXPECT_EQ(grid->item(gamma_M, 0)->text(), "1.15"); // Norway as its row stands
+    EXPECT_EQ(grid->item(gamma_M, 2)->text(), "1.40"); // the recommended values as edited
     EXPECT_EQ(window->runs(), runs);
     close_front();
     front("frmSetup");
