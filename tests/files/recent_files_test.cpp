@@ -51,6 +51,13 @@ TEST(RecentFiles, AFreshUserHasNoneAndOpeningReordersTheList)
     MoveRecentFile(s, "E");
     EXPECT_EQ(paths(s), (Paths{"E", "D", "C", "A"}));
     EXPECT_EQ(s.keys.size(), 4U); // the fourth drops out, no fifth key
+
+    // Names beyond the code page come back from their captions letter for letter.
+    const std::string loft = "bjelke p\u00e5 loftet.kvel", euro = "B\u201312 \u20ac.kvel";
+    MemoryStore named = store_of({loft, euro});
+    MoveRecentFile(named, path_from_utf8("\u03a9-bjelke.kvel"));
+    MoveRecentFile(named, path_from_utf8(euro));
+    EXPECT_EQ(paths(named), (Paths{euro, "\u03a9-bjelke.kvel", loft}));
 }
 
 } // namespace
