@@ -111,26 +111,12 @@ TEST(CliCalc, ADescriptionThatCannotBeReadExitsTwoNamingTheKey)
 
 TEST(CliCalc, UsageAndFileErrorsExitTwo)
 {
-    for (const char* line : {"",
-                             "draw",
-                             "calc --colour",
-                             "calc a.json b.json",
-                             "calc /no/such/beam.json",
-                             "calc beam.txt",
-                             "calc --size 100x100",
-                             "calc --data-dir /no/such/folder",
-                             "bench -n 0",
-                             "save",
-                             "save -o beam.json",
-                             "save a.kvel -o b.kvel",
-                             "dump",
-                             "dump beam.json",
-                             "plot",
-                             "plot -o x --size 10x10",
-                             "plot -o x --size wide",
-                             "report",
-                             "report -o report.txt",
-                             "calc --detailed"}) {
+    std::istringstream lines(
+        "|draw|calc --colour|calc a.json b.json|calc /no/such/beam.json|calc beam.txt|"
+        "calc --size 100x100|calc --data-dir /no/such/folder|bench -n 0|save|save -o beam.json|"
+        "save a.kvel -o b.kvel|dump|dump beam.json|plot|plot -o x --size 10x10|"
+        "plot -o x --size wide|report|report -o report.txt|calc --detailed");
+    for (std::string line; std::getline(lines, line, '|');) {
         std::istringstream words(line);
         const CliRun r = run({std::istream_iterator<std::string>(words), {}});
         EXPECT_EQ(r.exit, 2) << line;

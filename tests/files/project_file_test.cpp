@@ -22,6 +22,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace kvelder::test {
@@ -35,15 +36,6 @@ fs::path project_folder()
     const fs::path folder = scratch_folder() / "projects";
     fs::create_directories(folder);
     return folder;
-}
-
-Bytes file_bytes(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    const std::string s((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    Bytes b(s.size());
-    std::memcpy(b.data(), s.data(), s.size());
-    return b;
 }
 
 std::int16_t i16_at(const Bytes& b, std::size_t at)
@@ -140,49 +132,33 @@ TEST(ProjectLayout, RecordFieldsOfABeamWithLoadsInEveryTable)
     EXPECT_EQ(text_at(b, record + 2204, 10), "lam_bjelke");
     EXPECT_EQ(text_at(b, record + 2236, 4), "Firk");
     EXPECT_EQ(record + 2450, b.size());
-    EXPECT_EQ(i16_at(b, record + 4), 3);              // nf
-    EXPECT_EQ(f32_at(b, record + 6), 0.0F);           // ffl_s slot 0
-    EXPECT_EQ(f32_at(b, record + 6 + 3 * 4), 6.0F);   // ffl_s(3)
-    EXPECT_EQ(f32_at(b, record + 6 + 4 * 4), 0.0F);   // ffl_s above nf
-    EXPECT_EQ(i16_at(b, record + 430), 2);            // loadcomb_option
-    EXPECT_EQ(i16_at(b, record + 436), -1);           // profile_weight_on
-    EXPECT_EQ(f32_at(b, record + 486), 1.6F);         // creep_G
-    EXPECT_EQ(f32_at(b, record + 502), 1.05F);        // gamma_Q1_a
-    EXPECT_EQ(f32_at(b, record + 518), 1.4F);         // gamma_Q2_b
-    EXPECT_EQ(f32_at(b, record + 522 + 2 * 4), 3.0F); // G_uni_span(2)
-    EXPECT_EQ(f32_at(b, record + 566 + 2 * 4), 1.5F); // G_uni_q(2)
-    EXPECT_EQ(i16_at(b, record + 610), 2);            // G_uni_n
-    EXPECT_EQ(f32_at(b, record + 612 + 4), 2.0F);     // G_trap_span(1)
-    EXPECT_EQ(f32_at(b, record + 788 + 4), 3.5F);     // G_trap_b(1)
-    EXPECT_EQ(i16_at(b, record + 832), 1);            // G_trap_n
-    EXPECT_EQ(f32_at(b, record + 878 + 4), 10.0F);    // G_pt_P(1)
-    EXPECT_EQ(f32_at(b, record + 1012 + 4), 5.0F);    // G_mom_M(1)
-    EXPECT_EQ(i16_at(b, record + 1100), 1);           // G_mom_n
-    EXPECT_EQ(f32_at(b, record + 1236 + 4), 3.0F);    // Q1_trap_q1(1)
-    EXPECT_EQ(f32_at(b, record + 1592 + 4), -3.0F);   // Q1_mom_M(1)
-    EXPECT_EQ(i16_at(b, record + 1680), 1);           // Q1_mom_n
-    EXPECT_EQ(i16_at(b, record + 1682 + 2), 3);       // Q2_uni_span(1)
-    EXPECT_EQ(f32_at(b, record + 1694 + 4), 0.75F);   // Q2_uni_q(1)
-    EXPECT_EQ(i16_at(b, record + 1718), 1);           // Q2_uni_n
-    EXPECT_EQ(i16_at(b, record + 2032 + 2), 1);       // Q2_mom_span(1)
-    EXPECT_EQ(f32_at(b, record + 2046 + 4), 1.25F);   // Q2_mom_M(1)
-    EXPECT_EQ(f32_at(b, record + 2074 + 4), 3.0F);    // Q2_mom_a(1)
-    EXPECT_EQ(i16_at(b, record + 2102), 1);           // Q2_mom_n
-    EXPECT_EQ(i16_at(b, record + 2104), 0);           // two empty spare texts
-    EXPECT_EQ(i16_at(b, record + 2106), 0);
-    EXPECT_EQ(i16_at(b, record + 2214), -1); // standard_section
-    EXPECT_EQ(f32_at(b, record + 2216), m->section_b);
-    EXPECT_EQ(f32_at(b, record + 2220), m->section_h);
-    EXPECT_EQ(f32_at(b, record + 2224), 400.0F);         // section_d
-    EXPECT_EQ(i16_at(b, record + 2228), 3);              // duration_class
-    EXPECT_EQ(i16_at(b, record + 2230), 1);              // service_class
-    EXPECT_EQ(f32_at(b, record + 2232), 1.0F);           // ksys
-    EXPECT_EQ(f32_at(b, record + 2240 + 6 * 4), 120.0F); // bearing_length(6)
-    EXPECT_EQ(f32_at(b, record + 2284 + 2 * 4), 1.5F);   // bearing_kc90(2)
-    EXPECT_EQ(f32_at(b, record + 2328 + 2 * 4), 2.5F);   // l_stag(2)
-    EXPECT_EQ(f32_at(b, record + 2372 + 3 * 4), 0.8F);   // lef_factor(3)
-    EXPECT_EQ(f32_at(b, record + 2418), 1.0F);           // load_location
-    EXPECT_EQ(i16_at(b, record + 2422), 0);              // vipping_off
+    // Fields by name, offset in the record (slot k of a table at its start + 4 k
+    // floats or + 2 k integers) and value.
+    // clang-format off
+    const std::tuple<const char*, std::size_t, int> ints[] = {
+        {"nf", 4, 3}, {"loadcomb_option", 430, 2}, {"profile_weight_on", 436, -1}, {"G_uni_n", 610, 2},
+        {"G_trap_n", 832, 1}, {"G_mom_n", 1100, 1}, {"Q1_mom_n", 1680, 1}, {"Q2_uni_span(1)", 1682 + 2, 3},
+        {"Q2_uni_n", 1718, 1}, {"Q2_mom_span(1)", 2032 + 2, 1}, {"Q2_mom_n", 2102, 1},
+        {"spare text 1", 2104, 0}, {"spare text 2", 2106, 0}, {"standard_section", 2214, -1},
+        {"duration_class", 2228, 3}, {"service_class", 2230, 1}, {"vipping_off", 2422, 0}};
+    const std::tuple<const char*, std::size_t, float> floats[] = {
+        {"ffl_s slot 0", 6, 0.0F}, {"ffl_s(3)", 6 + 3 * 4, 6.0F}, {"ffl_s(4) above nf", 6 + 4 * 4, 0.0F},
+        {"creep_G", 486, 1.6F}, {"gamma_Q1_a", 502, 1.05F}, {"gamma_Q2_b", 518, 1.4F},
+        {"G_uni_span(2)", 522 + 8, 3.0F}, {"G_uni_q(2)", 566 + 8, 1.5F}, {"G_trap_b(1)", 788 + 4, 3.5F},
+        {"G_trap_span(1)", 612 + 4, 2.0F}, {"G_pt_P(1)", 878 + 4, 10.0F}, {"G_mom_M(1)", 1012 + 4, 5.0F},
+        {"Q1_trap_q1(1)", 1236 + 4, 3.0F}, {"Q1_mom_M(1)", 1592 + 4, -3.0F}, {"Q2_uni_q(1)", 1694 + 4, 0.75F},
+        {"Q2_mom_M(1)", 2046 + 4, 1.25F}, {"Q2_mom_a(1)", 2074 + 4, 3.0F}, {"section_b", 2216, m->section_b},
+        {"section_h", 2220, m->section_h}, {"section_d", 2224, 400.0F}, {"ksys", 2232, 1.0F},
+        {"bearing_length(6)", 2240 + 6 * 4, 120.0F}, {"bearing_kc90(2)", 2284 + 2 * 4, 1.5F},
+        {"l_stag(2)", 2328 + 2 * 4, 2.5F}, {"lef_factor(3)", 2372 + 3 * 4, 0.8F},
+        {"load_location", 2418, 1.0F}};
+    // clang-format on
+    for (const auto& [name, at, value] : ints) {
+        EXPECT_EQ(i16_at(b, record + at), value) << name;
+    }
+    for (const auto& [name, at, value] : floats) {
+        EXPECT_EQ(f32_at(b, record + at), value) << name;
+    }
 
     // The buckling data are written only while the check is on.
     m->vipping_off = kTrue;
@@ -312,10 +288,10 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     std::ofstream(path) << std::string(40000, 'Z'); // a longer file was there before
     ASSERT_FALSE(WriteProject(*m, path));
     EXPECT_EQ(m->setup.setup_table[0].psi0_1_index, 3); // the active factors go into the setup row
-    const Bytes first = file_bytes(path);
+    const std::string first = contents(path);
     ASSERT_FALSE(WriteProject(*m, path));
-    EXPECT_EQ(file_bytes(path), first);
-    EXPECT_EQ(first, project_bytes(*m)); // no tail of the old file
+    EXPECT_EQ(contents(path), first);
+    EXPECT_EQ(first, text_at(project_bytes(*m), 0, project_bytes(*m).size())); // no tail of the old file
     EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
 
     // The old file is replaced, never written over: a second name for it still
@@ -325,12 +301,12 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     fs::create_hard_link(path, old_name);
     m->G.uni_q(1) = 9.5F;
     ASSERT_FALSE(WriteProject(*m, path));
-    EXPECT_EQ(file_bytes(old_name), first);
-    EXPECT_NE(file_bytes(path), first);
+    EXPECT_EQ(contents(old_name), first);
+    EXPECT_NE(contents(path), first);
 
     // A read-only project is refused before anything is written, by its own
     // mark: Linux would rename over it, and root could write it anyway.
-    const Bytes replaced = file_bytes(path);
+    const std::string replaced = contents(path);
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
     m->G.uni_q(1) = 7.5F;
@@ -338,7 +314,7 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
     ASSERT_TRUE(read_only);
     EXPECT_EQ(read_only->kind, ProjectFailure::Kind::ReadOnly);
-    EXPECT_EQ(file_bytes(path), replaced);
+    EXPECT_EQ(contents(path), replaced);
     EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
     EXPECT_EQ(project_message("Eng", *read_only).text,
               "Can't save " + utf8_text(path) + ": the file is read-only. The file on disk is unchanged.");

@@ -1,8 +1,12 @@
-// What each control does to the beam: the rules the window and kvelder-cli share.
+// What each control does to the beam: the rules the window and kvelder-cli
+// share, the setup dialog's on the setup table as shipped, and the braces and
+// factors of the buckling check.
 
 #include "tests/support/beams.h"
 #include "ui/edits.h"
+#include "ui/input_checks.h"
 #include "ui/load_checks.h"
+#include "ui/setup_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -171,6 +175,71 @@ TEST(Setup, PsiAndClassesGiveTheirFactors)
     EXPECT_EQ(m->kfi, 0.83F);
     EXPECT_EQ(set_ksys(*m, 1.21F)->text, " 1 <= ksys <= 1.2");
     EXPECT_FALSE(set_ksys(*m, 1.2F));
+}
+
+TEST(SetupDialogRules, EachAnnexShowsItsClassesAndACountryChangeKeepsTheRowLeft)
+{
+    auto m = example_beam();
+    EXPECT_EQ(country_items(m->setup),
+              (std::vector<std::string>{"EC5 + NS-EN 1990 NA", "EC5 + EKS", "EC5 + EN 1990 recommended"}));
+    m->setup.setup_table[2].annex_title.clear();
+    EXPECT_EQ(country_items(m->setup).back(), "EC5 ");
+    EXPECT_EQ(psi_items(PsiList::Psi0_Q2).front(), "0.2");
+    EXPECT_EQ(psi_items(PsiList::Psi2_Q1).back(), "1.0");
+
+    EXPECT_EQ(setup_view(*m).frame, ClassFrame::Norway);
+    choose_safety_class(*m, 1);
+    EXPECT_TRUE(setup_view(*m).norway_class_1);
+    EXPECT_EQ(setup_view(*m).kfi, "0.90");
+    choose_language(*m, "Nor");
+
+    change_country(*m, 1); // Sweden: its safety classes and the exposed beam's kcr
+    const SetupView sweden = setup_view(*m);
+    EXPECT_EQ(sweden.frame, ClassFrame::Sweden);
+    EXPECT_TRUE(sweden.kcr_check);
+    EXPECT_EQ(sweden.sweden_option, 2);
+    EXPECT_EQ(sweden.kfi, "0.91"); // Sweden's class 2, not Norway's class 1 still in force
+    EXPECT_EQ(m->language, "Nor");
+    change_country(*m, 0);
+    EXPECT_EQ(m->safety_class, 1); // the row left kept its class
+    change_country(*m, 2);
+    EXPECT_EQ(setup_view(*m).frame, ClassFrame::None);
+    EXPECT_FALSE(setup_view(*m).kcr_check);
+}
+
+TEST(BucklingData, ASpanWithoutLengthGetsItsBracesWithItAndRefusedValuesNeverReachTheBeam)
+{
+    auto m = example_beam();
+    LoadDialogs d = load_dialogs(*m);
+    set_buckling_check(*m, true);
+    ASSERT_FALSE(set_l_stag(*m, 1, 2.5F));
+    EXPECT_FALSE(window_box_failure(*m));
+
+    // A new span has no length when the braces are reset; its length brings them.
+    choose_span_count(*m, 3, d);
+    set_l_stag(*m, 1, 2.5F);
+    set_span_length(*m, 3, 4.0F, d);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+    // Braces the engineer set stay, also beyond a span made shorter.
+    set_span_length(*m, 1, 2.0F, d);
+    EXPECT_EQ(m->l_stag(1), 2.5F);
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
+
+    // Braces reset while a span had no length come with the check.
+    set_buckling_check(*m, false);
+    m->l_stag(3) = 0;
+    set_buckling_check(*m, true);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+
+    // A refused value is not taken: no result is ever calculated from it.
+    const auto failure = set_lef_factor(*m, 2, 2.1F);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(m->lef_factor(2), 0.9F);
+    EXPECT_TRUE(set_l_stag(*m, 2, 0.3F));
+    EXPECT_EQ(m->l_stag(2), 5.0F);
+    EXPECT_FALSE(window_box_failure(*m));
+    choose_load_location(*m, 2); // no option of the dialog
+    EXPECT_EQ(m->load_location, 0);
 }
 
 } // namespace
