@@ -74,7 +74,7 @@ float height(const std::vector<TableLine>& lines)
                            [](float h, const TableLine& l) { return h + l.pitch; });
 }
 
-// Five spans, a circle, and every load table of every group holding rows.
+// Five spans, a circle, and every row of every load table of every group.
 std::unique_ptr<Model> round_five_spans()
 {
     auto m = example_beam();
@@ -376,23 +376,7 @@ TEST(ReportPages, FollowTheSpansAndTheDetailAndFullLoadTablesBreakOnward)
     }
 
     // Every row of every load table: the plots of the loads take a page of their own.
-    auto full = spans(5);
-    for (LoadGroup* g : {&full->G, &full->Q1, &full->Q2}) {
-        *g = LoadGroup{};
-        for (int k = 0; k < 10; ++k) {
-            const int span = k % 5 + 1;
-            if (k < 5) {
-                add_uniform(*g, span, 1.0F);
-            }
-            const float a = k < 5 ? 0.2F : 2.6F;
-            add_trapezoid(*g, span, 1.0F, 2.0F, a, a + 2);
-            add_point(*g, span, 2.0F, 0.2F + 0.4F * static_cast<float>(k));
-            if (k < 6) {
-                add_moment(*g, span, 1.0F, 0.3F + 0.5F * static_cast<float>(k));
-            }
-        }
-    }
-    full = calculated(std::move(full));
+    const auto full = round_five_spans();
     EXPECT_EQ(pages(*full, false), 4);
     // Its forces along the beam run past the end of a page and go on on the next.
     EXPECT_GE(pages(*full, true), 6);

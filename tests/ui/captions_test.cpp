@@ -90,8 +90,6 @@ TEST(Captions, NameTheFamiliesAndTheProgram)
     EXPECT_EQ(family_names("Eng"), (std::array<std::string, 4>{"Timber", "Laminated", "Kerto", "K-bjelke"}));
     EXPECT_EQ(family_names("Nor"), (std::array<std::string, 4>{"Trelast", "Laminert", "Kerto", "K-bjelke"}));
     EXPECT_EQ(program_title(), "Kvelder");
-    EXPECT_EQ(program_line("Eng"), "Analysis of a beam according to EC5");
-    EXPECT_EQ(program_line("Nor"), "Beregning av en bjelke if\u00f8lge EC5");
     EXPECT_EQ(version_line(), "Version  1.3.0");
 }
 
