@@ -68,12 +68,6 @@ bool shows(const std::vector<TableLine>& lines, std::string_view text)
     return false;
 }
 
-float height(const std::vector<TableLine>& lines)
-{
-    return std::accumulate(lines.begin(), lines.end(), 0.0F,
-                           [](float h, const TableLine& l) { return h + l.pitch; });
-}
-
 // Five spans, a circle, and every row of every load table of every group.
 std::unique_ptr<Model> round_five_spans()
 {
@@ -108,7 +102,9 @@ TEST(LoadTables, GroupsTakeTheRoomTheDriverReservesAndColumnsLineUp)
     const auto lines = load_lines(*m);
     // G and Q1 each: heading, titles, heads and two rows (12 mm and 3.5 a row);
     // the empty Q2 leaves neither heading nor gap.
-    EXPECT_FLOAT_EQ(height(lines), 2 * (12 + 2 * kLoadPitch));
+    EXPECT_FLOAT_EQ(std::accumulate(lines.begin(), lines.end(), 0.0F,
+                                    [](float h, const TableLine& l) { return h + l.pitch; }),
+                    2 * (12 + 2 * kLoadPitch));
     EXPECT_FALSE(shows(lines, "Variable loads Q2: "));
     EXPECT_TRUE(shows(lines, "(Selfweight of beam included as permanent load)"));
     EXPECT_EQ(texts(lines[1]), (std::vector<std::string>{"Uniform loads", "Trapezoidal loads", "Moment loads",

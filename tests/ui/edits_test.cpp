@@ -1,6 +1,7 @@
 // What each control does to the beam: the rules the window and kvelder-cli
-// share, the setup dialog's on the setup table as shipped, and the braces and
-// factors of the buckling check.
+// share, the setup dialog's on the setup table as shipped, the braces and
+// factors of the buckling check, and the checks of single boxes, of the spans
+// and of the supports.
 
 #include "tests/support/beams.h"
 #include "ui/edits.h"
@@ -150,23 +151,7 @@ TEST(Supports, LoadsOnANewSupportLoseTheirRows)
     EXPECT_EQ(m->support_kind(3), kBuiltIn);
 }
 
-TEST(Setup, PsiAndClassesGiveTheirFactors)
-{
-    auto m = example_beam();
-    choose_psi(*m, PsiList::Psi0_Q1, 4);
-    choose_psi(*m, PsiList::Psi2_Q2, 0);
-    EXPECT_EQ(m->psi0_1, f32(0.6));
-    EXPECT_EQ(m->psi2_2, 0.0F);
-    EXPECT_EQ(psi_list_size(PsiList::Psi0_Q2), 9);
-
-    choose_annex_row(*m, 1); // Sweden
-    EXPECT_EQ(m->annex, "Swe");
-    EXPECT_EQ(m->psi0_1_index, m->setup.setup_table[1].psi0_1_index);
-    choose_safety_class(*m, 1);
-    EXPECT_EQ(m->kfi, 0.83F);
-}
-
-TEST(SetupDialogRules, EachAnnexShowsItsClassesAndACountryChangeKeepsTheRowLeft)
+TEST(SetupDialogRules, EachAnnexShowsItsClassesACountryChangeKeepsTheRowLeftAndTheListsGiveTheirFactors)
 {
     auto m = example_beam();
     EXPECT_EQ(country_items(m->setup),
@@ -194,6 +179,18 @@ TEST(SetupDialogRules, EachAnnexShowsItsClassesAndACountryChangeKeepsTheRowLeft)
     change_country(*m, 2);
     EXPECT_EQ(setup_view(*m).frame, ClassFrame::None);
     EXPECT_FALSE(setup_view(*m).kcr_check);
+
+    // The lists and classes give their factors.
+    choose_psi(*m, PsiList::Psi0_Q1, 4);
+    choose_psi(*m, PsiList::Psi2_Q2, 0);
+    EXPECT_EQ(m->psi0_1, f32(0.6));
+    EXPECT_EQ(m->psi2_2, 0.0F);
+    EXPECT_EQ(psi_list_size(PsiList::Psi0_Q2), 9);
+    choose_annex_row(*m, 1); // Sweden
+    EXPECT_EQ(m->annex, "Swe");
+    EXPECT_EQ(m->psi0_1_index, m->setup.setup_table[1].psi0_1_index);
+    choose_safety_class(*m, 1);
+    EXPECT_EQ(m->kfi, 0.83F);
 }
 
 TEST(BucklingData, ASpanWithoutLengthGetsItsBracesWithItAndRefusedValuesNeverReachTheBeam)
@@ -229,6 +226,73 @@ TEST(BucklingData, ASpanWithoutLengthGetsItsBracesWithItAndRefusedValuesNeverRea
     EXPECT_FALSE(window_box_failure(*m));
     choose_load_location(*m, 2); // no option of the dialog
     EXPECT_EQ(m->load_location, 0);
+}
+
+TEST(BoxChecks, RefuseValuesAtTheirLimitsAsTheWindowDoes)
+{
+    auto m = example_beam();
+    const struct {
+        Box box;
+        float value;
+        bool passes;
+    } cases[] = {
+        {Box::Ksys, 1.2F, true},         {Box::Ksys, 1.21F, false},       {Box::Ksys, 0.99F, false},
+        {Box::SetupFactor, 0.1F, false}, {Box::SetupFactor, 0.11F, true}, {Box::LefFactor, 2.0F, true},
+        {Box::LefFactor, 0.2F, true},    {Box::LefFactor, 0.19F, false},  {Box::LStag, 0.3F, false},
+        {Box::LStag, 5.0F, true},        {Box::LStag, 5.01F, false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(!check_box(*m, c.box, c.value, 1).has_value(), c.passes)
+            << static_cast<int>(c.box) << " " << c.value;
+    }
+    // The window's flows see the English words of the boxes it has.
+    m->language = "Nor";
+    EXPECT_EQ(check_box(*m, Box::Width, 0)->text, "b =< 0 ");
+    EXPECT_EQ(check_box(*m, Box::BearingLength, 0)->text, "Oppleggslengde =< 0 ");
+    EXPECT_EQ(check_box(*m, Box::LStag, 9, 1)->text, " l_stag =< 0.3 m eller > feltlengde");
+}
+
+TEST(SpanAndSupportChecks, StopAtTheFirstMissingSpanAndCountTheRestraints)
+{
+    auto m = example_beam();
+    m->nf = 3;
+    m->ffl_s(2) = 0;
+    m->ffl_s(3) = 0;
+    const auto failure = check_spans(*m);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->span, 2);
+    EXPECT_EQ(m->err_spans, kTrue);
+    EXPECT_EQ(failure->message.title, "Lenght of span");
+    m->ffl_s(2) = m->ffl_s(3) = 4;
+    EXPECT_FALSE(check_spans(*m).has_value());
+    EXPECT_EQ(m->err_spans, kFalse);
+
+    m = example_beam();
+    m->nsupLeft_s = kFree;
+    m->nsupRight_s = kFree;
+    EXPECT_EQ(check_supports(*m)->title, "Support conditions");
+    EXPECT_EQ(m->err_supports, kTrue);
+    m->nf = 1, m->nnodes = 2, m->nsupLeft_s = kBuiltIn; // a cantilever
+    EXPECT_FALSE(check_supports(*m).has_value());
+    EXPECT_EQ(m->err_supports, kFalse);
+    m->nsupLeft_s = kSimple; // one support under one span
+    EXPECT_TRUE(check_supports(*m).has_value());
+}
+
+TEST(AllBoxes, CheckOnlyTheBoxesTheBeamShows)
+{
+    auto m = example_beam();
+    EXPECT_TRUE(check_all_boxes(*m).empty());
+    m->section_b = 0;
+    m->lef_factor(1) = 5; // the buckling boxes are hidden while the check is off
+    EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
+    m->section_form = "Tube";
+    EXPECT_TRUE(check_all_boxes(*m).empty());
+    m->vipping_off = kFalse;
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
+    m->ffl_s(2) = 0; // the span check comes first
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
 }
 
 } // namespace
