@@ -12,7 +12,6 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
 #include <vector>
 
@@ -118,16 +117,11 @@ std::unique_ptr<Model> two_span_beam()
     return m;
 }
 
-std::string contents(const fs::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void run_in(Model& m, const fs::path& folder)
+// A run into a folder, or through a trace kept open as the window keeps it.
+void run_in(Model& m, auto&& trace)
 {
     build_calculation_grids(m);
-    run_analysis(m, folder);
+    run_analysis(m, trace);
 }
 
 TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
@@ -160,23 +154,18 @@ TEST(ScratchFiles, ARunLeavesWhatItDoesNotWriteAsTheRunBeforeLeftIt)
     run_in(*m, folder);
     EXPECT_EQ(read_record(folder / "Geometri", 9398, 1).get_i16(2), 1);
 
-    // The same runs through one trace kept open, as the window keeps it, leave
-    // the same bytes.
+    // The same runs through one trace kept open leave the same bytes.
     const fs::path kept = scratch_folder() / "trace_kept";
     fs::remove_all(kept);
     fs::create_directories(kept);
     {
         ScratchFiles trace(kept);
         m = two_span_beam();
-        const auto run = [&trace](Model& beam) {
-            build_calculation_grids(beam);
-            run_analysis(beam, trace);
-        };
-        run(*three());
-        run(*m);
+        run_in(*three(), trace);
+        run_in(*m, trace);
         m->loadcomb_option = 1;
-        run(*m);
-        run(*m);
+        run_in(*m, trace);
+        run_in(*m, trace);
     }
     for (const char* file : {"Resultater", "Geometri"}) {
         EXPECT_EQ(contents(kept / file), contents(folder / file)) << file;

@@ -1,5 +1,7 @@
-// The drawing surface: scales, the cursor, and where things land in pixels.
+// The drawing surface: scales, the cursor, where things land in pixels, and the
+// report's pictures on paper (on a PDF writer the printing flows draw them).
 
+#include "drawing/paper_plot.h"
 #include "drawing/plot_scale.h"
 #include "drawing/plot_surface.h"
 #include "tests/support/beams.h"
@@ -137,6 +139,49 @@ TEST(PlotScale, LargestValues)
     Table<float, 10> loads;
     loads(1) = 2, loads(2) = -3, loads(3) = 50;
     EXPECT_EQ(MaxAbsOfLoads(loads, 2), 3.0F);
+}
+
+TEST(Paper, ArrowHeadsAreTwentyLinesNarrowingToTheTip)
+{
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+        PlotSurface s(image);
+        SetPlotScale(s, 0, 20, 20, 0);      // 10 pixels a millimetre, y up
+        PaperArrowHead(s, 10, 5, 10, true); // tip at 5 mm, base at 15 mm
+    }
+    // Full width near the base (half width 10 / sqrt 3 = 5.8 mm), nothing beyond it.
+    EXPECT_EQ(image.pixelColor(100 + 50, 50), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(100 + 62, 50), QColor(Qt::white));
+    // Narrow near the tip, and nothing below it.
+    EXPECT_EQ(image.pixelColor(100, 145), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(100 + 20, 145), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(100, 160), QColor(Qt::white));
+}
+
+TEST(Paper, LoadsBeamAndDiagramsOnAPage)
+{
+    const auto m = calculated(loaded_beam());
+    // An A4 page at 4 pixels a millimetre.
+    QImage page(800, 1160, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    {
+        PlotSurface s(page);
+        SetPlotScale(s, 0, 290, 200, 0);
+        PrintResults(s, *m, 15, PrintLoadPlots(s, *m, 15, 280) - 5);
+    }
+    // Paper is black and white, and everything stays inside the 170 mm of the beam
+    // plus its margins.
+    int ink = 0;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            const QColor c = page.pixelColor(x, y);
+            ASSERT_TRUE(c.red() == c.green() && c.green() == c.blue()) << x << "," << y;
+            ink += c != QColor(Qt::white) ? 1 : 0;
+        }
+        ASSERT_EQ(page.pixelColor(page.width() - 1, y), QColor(Qt::white)) << y;
+    }
+    EXPECT_GT(ink, 5000);
 }
 
 } // namespace

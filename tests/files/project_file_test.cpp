@@ -1,14 +1,20 @@
-// Project files: their bytes field by field against offsets worked out by hand
-// from the layout of the format, what comes back on opening, what the reader
-// deliberately does not restore, and damaged files that must leave everything
-// as it was.
+// The catalogues and the setup file: what the readers make of a file, what
+// they do with a missing one, and the data we ship. Project files: their bytes
+// field by field against offsets worked out by hand from the layout of the
+// format, what comes back on opening, what the reader deliberately does not
+// restore, and damaged files that must leave everything as it was.
 
 #include "files/catalogue.h"
 #include "files/code_page.h"
+#include "files/data_files.h"
 #include "files/path_text.h"
+#include "files/program_folders.h"
 #include "files/project_file.h"
 #include "files/project_layout.h"
+#include "files/setup_file.h"
+#include "files/shipped_data.h"
 #include "files/start_values.h"
+#include "files/text_lines.h"
 #include "tests/support/beams.h"
 #include "ui/messages.h"
 
@@ -22,6 +28,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace kvelder::test {
@@ -30,20 +37,211 @@ namespace {
 namespace fs = std::filesystem;
 using Bytes = std::vector<std::byte>;
 
+const std::string kSevenHeadLines = "h1\nh2\nh3\nh4\nh5\nh6\nName;Code;S;fm\n";
+
+TEST(Catalogue, KeepsOnlyDataRowsWithoutAGapAndDropsWhatTheTableCannotHold)
+{
+    // Either separator reads on either machine; a short row keeps zeros.
+    const std::string text = kSevenHeadLines + "C24;EN 338;S;24;14.5;2.5;4;11000;7400;350;420;0\r\n"
+                                               "Glulam;;H;\n"
+                                               "a comment\n"
+                                               "GL30c;EN 14080;S;30;19,5;2,5;3,5;13000;10800;390;430;0\n"
+                                               "X;;S;24;14.5;2.5;3.5\n";
+    ReadNotes notes;
+    const MaterialTable t = ReadMaterialCatalogue(text, 1, notes);
+    ASSERT_EQ(t.last_row, 2);
+    EXPECT_EQ(t.rows[1].name, "GL30c");
+    EXPECT_EQ(t.rows[1].fvk, 3.5F);
+    EXPECT_EQ(t.rows[1].E0mean, 13000.0F);
+    EXPECT_EQ(t.rows[1].E005, 10800.0F);
+    EXPECT_EQ(t.rows[1].spare, 0.0F); // column 9 is never read
+    EXPECT_EQ(t.rows[1].density, 430.0F);
+    EXPECT_EQ(t.rows[2].fvk, 3.5F);
+    EXPECT_EQ(t.rows[2].E0mean, 0.0F);
+    EXPECT_EQ(notes.rows_dropped, 0);
+
+    std::string profiles = kSevenHeadLines;
+    for (int r = 0; r < ProfileTable::kRows + 3; ++r) {
+        profiles += 'P';
+        profiles += std::to_string(r) + ";L;S;90;" + std::to_string(90 + r) + "\n";
+    }
+    const ProfileTable p = ReadProfileCatalogue(profiles, 0, notes);
+    EXPECT_EQ(p.last_row, ProfileTable::kRows - 1);
+    EXPECT_EQ(notes.rows_dropped, 3);
+    EXPECT_EQ(p.rows[400].name, "P400");
+}
+
+TEST(DataFiles, ValuesNoCalculationCanUseAreNamedAndTheFileIsKept)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_unusable";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Material.csv")
+        << kSevenHeadLines << "C24;;S;24;14.5;2.5;0;11000;7400;350;420;0\n";
+    std::ofstream(folder / "Kveldersetup.csv") << "1\n2\nL;Eng\nR;0\n5\n6\n"
+                                                  "Nor;;0.1;1.15;1.2;1.2;0.67;0.67;1;1;False;2;9;5;3;3;\n";
+    Model m;
+    const std::vector<DataFileNote> notes = ReadDataFiles(m, folder);
+    ASSERT_EQ(notes.size(), 3U); // the profile catalogue is missing
+    EXPECT_EQ(notes[0].unusable, (std::vector<std::string>{"Nor: gamma_M timber", "Nor: psi0 of Q1"}));
+    EXPECT_EQ(notes[1].unusable, (std::vector<std::string>{"C24: fv,k"}));
+    EXPECT_EQ(m.material_table.rows[0].name, "C24"); // kept as it is
+    EXPECT_NE(data_file_message("Eng", notes[1]).text.find("C24: fv,k"), std::string::npos);
+}
+
+TEST(DataFiles, AMissingOrEmptyFileGivesWayToTheShippedCopy)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_missing";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Profile.csv") << "only\nhead\nlines\n";
+    Model m;
+    const std::vector<DataFileNote> notes = ReadDataFiles(m, folder);
+    ASSERT_EQ(notes.size(), 3U);
+    EXPECT_EQ(notes[0].file, DataFile::Setup);
+    EXPECT_EQ(notes[0].kind, DataFileNote::Kind::Missing);
+    EXPECT_EQ(notes[0].folder, folder);
+    EXPECT_EQ(notes[2].kind, DataFileNote::Kind::NoRows);
+    ReadNotes ignored;
+    EXPECT_EQ(m.material_table, ReadMaterialCatalogue(shipped_material_catalogue(), 0, ignored));
+    EXPECT_EQ(m.setup.setup_table[0].annex, "Nor");
+    EXPECT_EQ(m.profile_families.of(1).size(), SplitProfileFamilies(m.profile_table).of(1).size());
+}
+
+TEST(DataFiles, AShortCatalogueStartsTheExampleBeamOnRowsItHas)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_short";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "EC5Material.csv")
+        << kSevenHeadLines << "C24;;S;24;14.5;2.5;4;11000;7400;350;420;0\n";
+    std::ofstream(folder / "EC5Profile.csv")
+        << kSevenHeadLines << "a;L;S;90;180\nb;L;S;90;225\nc;L;S;90;270\n";
+    Model m;
+    start_up(m, folder, kPointMachine);
+    EXPECT_EQ(m.material_row, 0);
+    EXPECT_EQ(m.prof_index, 2); // the middle of three, rounded half to even
+    EXPECT_EQ(m.section_h, 270.0F);
+}
+
+TEST(DataFiles, AFolderIsFilledWithTheShippedFilesOnlyWhereItLacksThem)
+{
+    const std::filesystem::path folder = scratch_folder() / "data_fill";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "Kveldersetup.csv") << "mine";
+    fill_data_dir(folder);
+    EXPECT_EQ(read_text_file(folder / "Kveldersetup.csv"), "mine");
+    EXPECT_EQ(read_text_file(folder / "EC5Material.csv"), std::string(shipped_material_catalogue()));
+}
+
+// An installed program finds its data in <prefix>/share/kvelder beside
+// <prefix>/bin; one run from its build tree has none there.
+TEST(DataFiles, TheInstalledFolderLiesBesideTheProgramsFolder)
+{
+    const fs::path prefix = scratch_folder() / path_from_utf8("installert \u03a9");
+    fs::remove_all(prefix);
+    fs::create_directories(prefix / "bin");
+    EXPECT_FALSE(installed_data_dir(prefix / "bin"));
+    fill_data_dir(prefix / "share" / "kvelder");
+    EXPECT_EQ(installed_data_dir(prefix / "bin"), prefix / "share" / "kvelder");
+
+    const std::optional<fs::path> exe = executable_path();
+    ASSERT_TRUE(exe);
+    EXPECT_EQ(exe->stem(), "files_tests");
+}
+
+TEST(ShippedData, HoldsTheClassesOfTheStandards)
+{
+    Model m;
+    ASSERT_TRUE(ReadDataFiles(m, source_data_dir()).empty()); // every value usable
+    std::set<std::string> names;
+    for (int r = 0; r <= m.material_table.last_row; ++r) {
+        const MaterialRow& row = m.material_table.rows[static_cast<std::size_t>(r)];
+        names.insert(row.name);
+        EXPECT_LT(row.E005, row.E0mean) << row.name;
+        EXPECT_GT(row.density, 300) << row.name;
+    }
+    for (const char* name : {"C14", "C24", "C50", "GL20h", "GL22h", "GL32h", "GL20c", "GL32c", "D18", "D80",
+                             "LVL 48 P", "LVL 36 C"}) {
+        EXPECT_EQ(names.count(name), 1U) << name;
+    }
+    EXPECT_GT(m.material_table.rows[40].s_exponent, 0);
+
+    for (int family = 0; family < 4; ++family) {
+        EXPECT_FALSE(m.profile_families.of(family).empty()) << family;
+    }
+
+    std::vector<std::string> annexes;
+    for (int r = 0; r <= m.setup.setup_last_row; ++r) {
+        annexes.push_back(m.setup.setup_table[static_cast<std::size_t>(r)].annex);
+    }
+    EXPECT_EQ(annexes, (std::vector<std::string>{"Nor", "Swe", "Euc"}));
+    EXPECT_EQ(m.setup.setup_table[2].gamma_timb, 1.3F);
+}
+
+TEST(SetupFile, ReadsEitherSeparatorAndWritesItsHeadLinesBack)
+{
+    const std::string text = "free 1\nfree 2\nLanguage;Nor\nRow;1\nfree 5\nfree 6\n"
+                             "Nor;NA;1,25;1,15;1,2;1,2;0,67;0,67;1;1;True;1;5;4;3;2;\n"
+                             "Swe;;1.3;1.25;1.2;1.2;0.67;0.67;1;1;False;3;0;1;0;10;\n";
+    ReadNotes notes;
+    const FileDatabase db = ReadSetupFile(text, 0, notes);
+    EXPECT_EQ(db.setup_language, "Nor");
+    EXPECT_EQ(db.setup_row, 1);
+    EXPECT_EQ(db.setup_last_row, 1);
+    EXPECT_EQ(db.setup_table[0].gamma_timb, 1.25F);
+    EXPECT_EQ(db.setup_table[0].kcr_exposed, kTrue);
+    EXPECT_EQ(db.setup_table[1].psi2_2_index, 10);
+
+    for (std::int16_t machine : {0, 1}) {
+        ReadNotes again;
+        EXPECT_EQ(ReadSetupFile(SetupFileText(db, machine), machine, again), db);
+    }
+    const std::string written = SetupFileText(db, 1);
+    EXPECT_EQ(written.substr(0, written.find("Nor;NA")),
+              "free 1\r\nfree 2\r\nLanguage;Nor\r\nRow;1\r\nfree 5\r\nfree 6\r\n");
+    EXPECT_NE(written.find("1,25;"), std::string::npos);
+}
+
+TEST(SetupRow, BecomesTheActiveFactorsAndGoesBack)
+{
+    Model m;
+    ReadNotes notes;
+    m.setup = ReadSetupFile("1\n2\nL;Eng\nR;0\n5\n6\n"
+                            "Nor;NA;1.25;1.15;1.2;1.2;0.67;0.67;1;1;True;1;5;4;3;2;\n"
+                            "Swe;;1.3;1.25;1.2;1.2;0.5;0.6;1;1;True;3;0;1;0;10;\n",
+                            0, notes);
+    ApplySetupRow(m);
+    EXPECT_EQ(m.title_suffix, "Kvelder + NA: ");
+    EXPECT_EQ(m.kcr_exposed, kFalse); // taken only in Sweden
+    EXPECT_EQ(m.psi0_1, f32(0.7));
+    EXPECT_EQ(m.psi0_2, f32(0.6));
+    EXPECT_EQ(m.psi2_1, f32(0.3));
+    EXPECT_EQ(m.psi2_2, f32(0.2));
+    StoreSetupRow(m);
+    EXPECT_EQ(m.setup.setup_table[0].kcr_exposed, kTrue);
+
+    m.setup.setup_row = 1;
+    ApplySetupRow(m);
+    EXPECT_EQ(m.title_suffix, "Kvelder: ");
+    EXPECT_EQ(m.kcr_exposed, kTrue);
+    EXPECT_EQ(m.psi0_1, f32(0.2));
+    EXPECT_EQ(m.psi2_2, 1.0F);
+
+    m.gamma_lam = 1.4F;
+    m.safety_class = 2;
+    StoreSetupRow(m);
+    EXPECT_EQ(m.setup.setup_table[1].gamma_lam, 1.4F);
+    EXPECT_EQ(m.setup.setup_table[1].safety_class, 2);
+
+    m.setup.setup_row = 7; // beyond the rows read
+    ApplySetupRow(m);
+    EXPECT_EQ(m.setup.setup_row, 0);
+    EXPECT_EQ(m.annex, "Nor");
+}
+
 fs::path project_folder()
 {
     const fs::path folder = scratch_folder() / "projects";
     fs::create_directories(folder);
     return folder;
-}
-
-Bytes file_bytes(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    const std::string s((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    Bytes b(s.size());
-    std::memcpy(b.data(), s.data(), s.size());
-    return b;
 }
 
 std::int16_t i16_at(const Bytes& b, std::size_t at)
@@ -140,49 +338,33 @@ TEST(ProjectLayout, RecordFieldsOfABeamWithLoadsInEveryTable)
     EXPECT_EQ(text_at(b, record + 2204, 10), "lam_bjelke");
     EXPECT_EQ(text_at(b, record + 2236, 4), "Firk");
     EXPECT_EQ(record + 2450, b.size());
-    EXPECT_EQ(i16_at(b, record + 4), 3);              // nf
-    EXPECT_EQ(f32_at(b, record + 6), 0.0F);           // ffl_s slot 0
-    EXPECT_EQ(f32_at(b, record + 6 + 3 * 4), 6.0F);   // ffl_s(3)
-    EXPECT_EQ(f32_at(b, record + 6 + 4 * 4), 0.0F);   // ffl_s above nf
-    EXPECT_EQ(i16_at(b, record + 430), 2);            // loadcomb_option
-    EXPECT_EQ(i16_at(b, record + 436), -1);           // profile_weight_on
-    EXPECT_EQ(f32_at(b, record + 486), 1.6F);         // creep_G
-    EXPECT_EQ(f32_at(b, record + 502), 1.05F);        // gamma_Q1_a
-    EXPECT_EQ(f32_at(b, record + 518), 1.4F);         // gamma_Q2_b
-    EXPECT_EQ(f32_at(b, record + 522 + 2 * 4), 3.0F); // G_uni_span(2)
-    EXPECT_EQ(f32_at(b, record + 566 + 2 * 4), 1.5F); // G_uni_q(2)
-    EXPECT_EQ(i16_at(b, record + 610), 2);            // G_uni_n
-    EXPECT_EQ(f32_at(b, record + 612 + 4), 2.0F);     // G_trap_span(1)
-    EXPECT_EQ(f32_at(b, record + 788 + 4), 3.5F);     // G_trap_b(1)
-    EXPECT_EQ(i16_at(b, record + 832), 1);            // G_trap_n
-    EXPECT_EQ(f32_at(b, record + 878 + 4), 10.0F);    // G_pt_P(1)
-    EXPECT_EQ(f32_at(b, record + 1012 + 4), 5.0F);    // G_mom_M(1)
-    EXPECT_EQ(i16_at(b, record + 1100), 1);           // G_mom_n
-    EXPECT_EQ(f32_at(b, record + 1236 + 4), 3.0F);    // Q1_trap_q1(1)
-    EXPECT_EQ(f32_at(b, record + 1592 + 4), -3.0F);   // Q1_mom_M(1)
-    EXPECT_EQ(i16_at(b, record + 1680), 1);           // Q1_mom_n
-    EXPECT_EQ(i16_at(b, record + 1682 + 2), 3);       // Q2_uni_span(1)
-    EXPECT_EQ(f32_at(b, record + 1694 + 4), 0.75F);   // Q2_uni_q(1)
-    EXPECT_EQ(i16_at(b, record + 1718), 1);           // Q2_uni_n
-    EXPECT_EQ(i16_at(b, record + 2032 + 2), 1);       // Q2_mom_span(1)
-    EXPECT_EQ(f32_at(b, record + 2046 + 4), 1.25F);   // Q2_mom_M(1)
-    EXPECT_EQ(f32_at(b, record + 2074 + 4), 3.0F);    // Q2_mom_a(1)
-    EXPECT_EQ(i16_at(b, record + 2102), 1);           // Q2_mom_n
-    EXPECT_EQ(i16_at(b, record + 2104), 0);           // two empty spare texts
-    EXPECT_EQ(i16_at(b, record + 2106), 0);
-    EXPECT_EQ(i16_at(b, record + 2214), -1); // standard_section
-    EXPECT_EQ(f32_at(b, record + 2216), m->section_b);
-    EXPECT_EQ(f32_at(b, record + 2220), m->section_h);
-    EXPECT_EQ(f32_at(b, record + 2224), 400.0F);         // section_d
-    EXPECT_EQ(i16_at(b, record + 2228), 3);              // duration_class
-    EXPECT_EQ(i16_at(b, record + 2230), 1);              // service_class
-    EXPECT_EQ(f32_at(b, record + 2232), 1.0F);           // ksys
-    EXPECT_EQ(f32_at(b, record + 2240 + 6 * 4), 120.0F); // bearing_length(6)
-    EXPECT_EQ(f32_at(b, record + 2284 + 2 * 4), 1.5F);   // bearing_kc90(2)
-    EXPECT_EQ(f32_at(b, record + 2328 + 2 * 4), 2.5F);   // l_stag(2)
-    EXPECT_EQ(f32_at(b, record + 2372 + 3 * 4), 0.8F);   // lef_factor(3)
-    EXPECT_EQ(f32_at(b, record + 2418), 1.0F);           // load_location
-    EXPECT_EQ(i16_at(b, record + 2422), 0);              // vipping_off
+    // Fields by name, offset in the record (slot k of a table at its start + 4 k
+    // floats or + 2 k integers) and value.
+    // clang-format off
+    const std::tuple<const char*, std::size_t, int> ints[] = {
+        {"nf", 4, 3}, {"loadcomb_option", 430, 2}, {"profile_weight_on", 436, -1}, {"G_uni_n", 610, 2},
+        {"G_trap_n", 832, 1}, {"G_mom_n", 1100, 1}, {"Q1_mom_n", 1680, 1}, {"Q2_uni_span(1)", 1682 + 2, 3},
+        {"Q2_uni_n", 1718, 1}, {"Q2_mom_span(1)", 2032 + 2, 1}, {"Q2_mom_n", 2102, 1},
+        {"spare text 1", 2104, 0}, {"spare text 2", 2106, 0}, {"standard_section", 2214, -1},
+        {"duration_class", 2228, 3}, {"service_class", 2230, 1}, {"vipping_off", 2422, 0}};
+    const std::tuple<const char*, std::size_t, float> floats[] = {
+        {"ffl_s slot 0", 6, 0.0F}, {"ffl_s(3)", 6 + 3 * 4, 6.0F}, {"ffl_s(4) above nf", 6 + 4 * 4, 0.0F},
+        {"creep_G", 486, 1.6F}, {"gamma_Q1_a", 502, 1.05F}, {"gamma_Q2_b", 518, 1.4F},
+        {"G_uni_span(2)", 522 + 8, 3.0F}, {"G_uni_q(2)", 566 + 8, 1.5F}, {"G_trap_b(1)", 788 + 4, 3.5F},
+        {"G_trap_span(1)", 612 + 4, 2.0F}, {"G_pt_P(1)", 878 + 4, 10.0F}, {"G_mom_M(1)", 1012 + 4, 5.0F},
+        {"Q1_trap_q1(1)", 1236 + 4, 3.0F}, {"Q1_mom_M(1)", 1592 + 4, -3.0F}, {"Q2_uni_q(1)", 1694 + 4, 0.75F},
+        {"Q2_mom_M(1)", 2046 + 4, 1.25F}, {"Q2_mom_a(1)", 2074 + 4, 3.0F}, {"section_b", 2216, m->section_b},
+        {"section_h", 2220, m->section_h}, {"section_d", 2224, 400.0F}, {"ksys", 2232, 1.0F},
+        {"bearing_length(6)", 2240 + 6 * 4, 120.0F}, {"bearing_kc90(2)", 2284 + 2 * 4, 1.5F},
+        {"l_stag(2)", 2328 + 2 * 4, 2.5F}, {"lef_factor(3)", 2372 + 3 * 4, 0.8F},
+        {"load_location", 2418, 1.0F}};
+    // clang-format on
+    for (const auto& [name, at, value] : ints) {
+        EXPECT_EQ(i16_at(b, record + at), value) << name;
+    }
+    for (const auto& [name, at, value] : floats) {
+        EXPECT_EQ(f32_at(b, record + at), value) << name;
+    }
 
     // The buckling data are written only while the check is on.
     m->vipping_off = kTrue;
@@ -312,10 +494,10 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     std::ofstream(path) << std::string(40000, 'Z'); // a longer file was there before
     ASSERT_FALSE(WriteProject(*m, path));
     EXPECT_EQ(m->setup.setup_table[0].psi0_1_index, 3); // the active factors go into the setup row
-    const Bytes first = file_bytes(path);
+    const std::string first = contents(path);
     ASSERT_FALSE(WriteProject(*m, path));
-    EXPECT_EQ(file_bytes(path), first);
-    EXPECT_EQ(first, project_bytes(*m)); // no tail of the old file
+    EXPECT_EQ(contents(path), first);
+    EXPECT_EQ(first, text_at(project_bytes(*m), 0, project_bytes(*m).size())); // no tail of the old file
     EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
 
     // The old file is replaced, never written over: a second name for it still
@@ -325,12 +507,12 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     fs::create_hard_link(path, old_name);
     m->G.uni_q(1) = 9.5F;
     ASSERT_FALSE(WriteProject(*m, path));
-    EXPECT_EQ(file_bytes(old_name), first);
-    EXPECT_NE(file_bytes(path), first);
+    EXPECT_EQ(contents(old_name), first);
+    EXPECT_NE(contents(path), first);
 
     // A read-only project is refused before anything is written, by its own
     // mark: Linux would rename over it, and root could write it anyway.
-    const Bytes replaced = file_bytes(path);
+    const std::string replaced = contents(path);
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
     m->G.uni_q(1) = 7.5F;
@@ -338,7 +520,7 @@ TEST(ProjectFile, ASaveReplacesTheFileWholeOrChangesNothing)
     fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
     ASSERT_TRUE(read_only);
     EXPECT_EQ(read_only->kind, ProjectFailure::Kind::ReadOnly);
-    EXPECT_EQ(file_bytes(path), replaced);
+    EXPECT_EQ(contents(path), replaced);
     EXPECT_FALSE(fs::exists(fs::path(path) += ".new"));
     EXPECT_EQ(project_message("Eng", *read_only).text,
               "Can't save " + utf8_text(path) + ": the file is read-only. The file on disk is unchanged.");

@@ -203,7 +203,7 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     const QString caption = window->windowTitle();
     const auto listed = recent.keys;
     prompter.save_answers = {Answer::Discard};
-    prompter.file_names = {qpath(m_folder / "gone.kvel")};
+    prompter.file_names = {to_qstring(m_folder / "gone.kvel")};
     keys(QKeySequence::Open);
     EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
     EXPECT_EQ(window->windowTitle(), caption);
@@ -222,10 +222,10 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     // Save As onto a file that is there asks first: No keeps it, Yes replaces it.
     const fs::path other = m_folder / "other.kvel";
     std::ofstream(other) << "not a project";
-    prompter.file_names = {qpath(other), qpath(other), std::nullopt};
+    prompter.file_names = {to_qstring(other), to_qstring(other), std::nullopt};
     prompter.yes_answers = {false, true};
     menu("mnufileitem_3");
-    EXPECT_EQ(prompter.questions.last(), qpath(other) + " already exists. Do you want to replace it?");
+    EXPECT_EQ(prompter.questions.last(), to_qstring(other) + " already exists. Do you want to replace it?");
     EXPECT_EQ(contents(other), "not a project");
     EXPECT_EQ(window->session().project_path, to_path(gate));
     menu("mnufileitem_3");
@@ -235,12 +235,12 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     EXPECT_EQ(prompter.messages.last(), "Cancel were pressed");
 
     // The recent files show a path as it is, its "&" too.
-    const QString amp = qpath(m_folder / "R&D.kvel");
+    const QString amp = to_qstring(m_folder / "R&D.kvel");
     prompter.file_names = {amp};
     menu("mnufileitem_3");
     EXPECT_TRUE(get<QAction>("mnuspace")->isVisible() && get<QAction>("mnurecentfile_2")->isVisible());
     EXPECT_EQ(item("mnurecentfile_1"), "1. " + QString(amp).replace("&", "&&"));
-    EXPECT_EQ(item("mnurecentfile_2"), "2. " + qpath(other));
+    EXPECT_EQ(item("mnurecentfile_2"), "2. " + to_qstring(other));
 
     // A recent project opens in front of the others, after the question about the change.
     click("Opt_610a");
@@ -249,7 +249,7 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     menu("mnurecentfile_2");
     EXPECT_EQ(prompter.questions.last(), "Save changes to " + amp + "?");
     EXPECT_EQ(window->runs(), runs + 1);
-    EXPECT_EQ(item("mnurecentfile_1"), "1. " + qpath(other));
+    EXPECT_EQ(item("mnurecentfile_1"), "1. " + to_qstring(other));
 
     // A box that refuses its value refuses the save with its message.
     click("optRect");
@@ -335,7 +335,7 @@ TEST_F(MainWindowFlow, PrintingGoesToTheChosenPrinterKeepsTheDetailAndRefusesSta
     const fs::path printed = m_folder / "printed.pdf";
     get<QAction>("mnumax2")->trigger(); // the print dialog cancelled: nothing at all
     EXPECT_FALSE(fs::exists(printed));
-    prompter.printer_file = qpath(printed);
+    prompter.printer_file = to_qstring(printed);
     get<QAction>("mnumax1")->trigger();
     EXPECT_EQ(pdf_pages(printed), 2);
     get<QAction>("mnumax2")->trigger();
@@ -344,7 +344,7 @@ TEST_F(MainWindowFlow, PrintingGoesToTheChosenPrinterKeepsTheDetailAndRefusesSta
     EXPECT_EQ(pdf_pages(printed), 3);
 
     const fs::path saved = m_folder / "report";
-    prompter.file_names = {qpath(saved)};
+    prompter.file_names = {to_qstring(saved)};
     get<QAction>("mnupdf")->trigger();
     EXPECT_EQ(pdf_pages(m_folder / "report.pdf"), 3);
 

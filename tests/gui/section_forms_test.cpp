@@ -1,11 +1,18 @@
-// The forms around the section, driven from the window: the buckling input by
-// keys and clicks, the section properties, the table of effective lengths and
-// the section finder.
+// The forms of the window, driven from it: the buckling input by keys and
+// clicks, the section properties, the table of effective lengths, the section
+// finder, the detailed results and the result grid; the reference dialogs as
+// the main window's help buttons open them, and the documents of the help
+// menu, which the build lays out beside the program.
 
+#include "recalc/main_calc.h"
 #include "tests/gui/window_flow.h"
+#include "ui/result_grid.h"
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
 
 namespace kvelder::test {
 namespace {
@@ -142,6 +149,195 @@ TEST_F(MainWindowFlow, FindSectionOffersTheLightestAndChangesTheBeamOnlyWhenOneI
     EXPECT_EQ(window->runs(), runs + 1);
     EXPECT_TRUE(list->item(0)->text().startsWith(get<QComboBox>("cboProf")->currentText()));
     EXPECT_EQ(get<InputBox>("txt_b1")->text(), QString::number(model->section_b));
+}
+
+class HelpFlow : public MainWindowFlow {
+protected:
+    // Clicks a help button and closes what opened by its OK; the name and the
+    // title of what opened.
+    std::pair<QString, QString> open_by(const char* button)
+    {
+        click(button);
+        QDialog* dialog = front();
+        if (dialog == nullptr) {
+            return {};
+        }
+        std::pair opened{dialog->objectName(), dialog->windowTitle()};
+        QTest::mouseClick(dialog->findChild<QWidget*>("Cmd_ok"), Qt::LeftButton);
+        QApplication::processEvents();
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << button;
+        return opened;
+    }
+};
+
+TEST_F(HelpFlow, EachHelpButtonOpensItsFormInTheLanguageAndThePatternsNeedTwoSpans)
+{
+    start();
+    ASSERT_EQ(model->annex, "Nor");
+    ASSERT_EQ(model->nf, 2);
+    click("Check_vipping");
+
+    const char* const cases[][3] = {
+        {"Cmd_opplegg", "frmHelpOpplegg", "Definition of support"},
+        {"Cmd_610a_b", "frmHelpLoadCombNo", "Design situation 6.10a og 6.10b, Norway"},
+        {"Cmd_vipp_text", "frmHelpVipp", "Lateral torsional buckling"},
+        // The total load is in force: its picture, though the patterns are not chosen.
+        {"Cmd_loadcomb2", "frmHelpComb1", "Permanent + total variable load"},
+    };
+    choose_language(*model, "Eng");
+    window->refresh();
+    for (const auto& [button, form, title] : cases) {
+        EXPECT_EQ(open_by(button), std::pair(QString(form), QString(title)));
+    }
+
+    // In Norwegian, the patterns.
+    choose_language(*model, "Nor");
+    window->refresh();
+    click("Opt_loadcomb2");
+    EXPECT_EQ(open_by("Cmd_loadcomb2"),
+              std::pair(QString("frmHelpComb2"), QString("Permanent + ulike variable lasttilfeller")));
+    EXPECT_EQ(prompter.messages, QStringList{});
+    // One span has no patterns to show.
+    click("Optfelt_0");
+    EXPECT_FALSE(get("Cmd_loadcomb2")->isEnabled());
+}
+
+TEST_F(MainWindowFlow, HelpMenuOpensTheDocumentsOfTheHelpFolderOrSaysWhichIsMissing)
+{
+    const fs::path built = path_from_utf8(KVELDER_HELP_DIR);
+    help_folder = built;
+    start();
+    menu("mnuman", "mnuHjelp");
+    menu("mnuUpdate", "mnuHjelp");
+    EXPECT_EQ(prompter.opened, (QStringList{to_qstring(built / "Kvelder manual.pdf"),
+                                            to_qstring(built / "Kvelder Update information.pdf")}));
+    EXPECT_TRUE(prompter.messages.isEmpty());
+
+    // A folder without them: nothing is handed to the desktop, and the path is named.
+    help_folder = m_folder;
+    start();
+    menu("mnuUpdate", "mnuHjelp");
+    EXPECT_EQ(prompter.opened.size(), 2);
+    EXPECT_EQ(prompter.messages,
+              QStringList{"Can't open " + to_qstring(m_folder / "Kvelder Update information.pdf")});
+}
+
+class ResultFormsFlow : public MainWindowFlow {
+protected:
+    // Types into a box of the dialog in front and leaves it by Tab.
+    static void type_in(QDialog* dialog, const char* name, const QString& text)
+    {
+        auto* box = dialog->findChild<InputBox*>(name);
+        ASSERT_NE(box, nullptr) << name;
+        QTest::mouseClick(box, Qt::LeftButton);
+        QApplication::processEvents();
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Tab);
+    }
+    static QImage text_picture(QDialog* dialog)
+    {
+        return dialog->findChild<PictureBox*>("Pic_detailed")->image();
+    }
+};
+
+TEST_F(ResultFormsFlow, ATrialHeightChangesTheBeamAndTheMainWindowOrIsRefusedKeepingThePicture)
+{
+    start();
+    click("optRect");
+    click("cmd_detres");
+    QDialog* d = front("frm_Kvelder_detailedresult");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->windowTitle(), "Detailed results");
+    EXPECT_FALSE(d->findChild<QLineEdit*>("Txt_stand_dim")->isVisible());
+    EXPECT_TRUE(d->findChild<QWidget*>("Optspandet_1")->isVisible());
+    EXPECT_FALSE(d->findChild<QWidget*>("Optspandet_2")->isVisible());
+    const QImage span_1 = text_picture(d);
+    QTest::mouseClick(d->findChild<QWidget*>("Optspandet_1"), Qt::LeftButton, {}, QPoint(6, 8));
+    EXPECT_NE(text_picture(d), span_1);
+
+    const QString usage = text("lbl_mom_0");
+    const QImage before = text_picture(d);
+    const int runs = window->runs();
+    type_in(d, "txt_h1", "200");
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(get<InputBox>("txt_h1")->text(), "200");
+    EXPECT_NE(text("lbl_mom_0"), usage);
+    const QImage after = text_picture(d);
+    EXPECT_NE(after, before);
+
+    // A height of 0: the message, the focus stays, the picture and results stand.
+    type_in(d, "txt_h1", "0");
+    EXPECT_EQ(prompter.messages, QStringList{" h =< 0 "});
+    EXPECT_EQ(window->runs(), runs + 1);
+    EXPECT_EQ(text_picture(d), after);
+    EXPECT_EQ(QApplication::focusWidget(), d->findChild<InputBox*>("txt_h1"));
+    EXPECT_TRUE(green("txt_h1"));
+    EXPECT_TRUE(data_missing(*model)); // no result for it, and no save
+    QTest::mouseClick(d->findChild<QPushButton*>("Cmd_ok"), Qt::LeftButton);
+    EXPECT_TRUE(d->isVisible()); // the refused box keeps the window
+    EXPECT_EQ(prompter.messages.size(), 2);
+
+    // Esc gives the refused height up: the beam is the one its results are for.
+    QTest::keyClick(d, Qt::Key_Escape);
+    EXPECT_EQ(model->section_h, 200.0F);
+    EXPECT_EQ(get<InputBox>("txt_h1")->text(), "200");
+    EXPECT_FALSE(green("txt_h1"));
+    click("Opt_610b");
+    EXPECT_EQ(window->runs(), runs + 2);
+    EXPECT_EQ(prompter.messages.size(), 2);
+
+    // A run stopped at the gate leaves nothing to show until the next that passes.
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    type("txt_h1", "0");
+    click("Opt_610a");
+    EXPECT_EQ(prompter.messages.last(), "Data  missing, no executing of stiffness analysis");
+    EXPECT_FALSE(get("cmd_detres")->isEnabled());
+    EXPECT_FALSE(get("Cmd_grid_krefter")->isEnabled());
+    type("txt_h1", "300");
+    EXPECT_TRUE(get("cmd_detres")->isEnabled());
+}
+
+TEST_F(ResultFormsFlow, TheGridListsTheBeamFromTheLastRunEachTimeItOpens)
+{
+    start();
+    click("Cmd_grid_krefter");
+    QDialog* d = front("frm_B_grid_mom_Shear_disp_comb");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->windowTitle(), "Results along the beam");
+    auto* grid = d->findChild<QTableWidget*>("Grid");
+    const ResultGrid texts = result_grid(*model);
+    ASSERT_EQ(grid->rowCount(), kGridHeadRows + static_cast<int>(texts.rows.size()));
+    EXPECT_EQ(grid->columnSpan(0, 0), 6);
+    EXPECT_EQ(grid->item(1, 2)->text(), "Shear (kN)");
+    EXPECT_EQ(grid->item(4, 6)->text(), QString::fromStdString(texts.rows[0].cells[6]));
+    EXPECT_EQ(grid->item(4, 6)->background().color(), QColor(192, 192, 192));
+    EXPECT_EQ(grid->item(5, 6)->text(), "");
+    // The heads stand still over the values as they scroll.
+    d->resize(d->width(), 300);
+    QApplication::processEvents();
+    const QRect heads(grid->viewport()->pos(),
+                      QSize(grid->viewport()->width(), grid->rowViewportPosition(kGridHeadRows)));
+    const QImage top = grid->grab(heads).toImage();
+    grid->scrollToBottom();
+    ASSERT_GT(grid->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(grid->grab(heads).toImage(), top);
+    d->reject();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+
+    // A Norwegian project of three spans, at the next opening.
+    auto three = three_spans();
+    three->language = "Nor";
+    prompter.file_names = {write("three.kvel", *three)};
+    keys(QKeySequence::Open);
+    click("Cmd_grid_krefter");
+    d = front("frm_B_grid_mom_Shear_disp_comb");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->windowTitle(), "Resultater langs bjelken");
+    EXPECT_EQ(grid->rowCount(), kGridHeadRows + static_cast<int>(result_grid(*model).rows.size()));
+    EXPECT_EQ(grid->item(1, 0)->text(), "Felt");
 }
 
 } // namespace

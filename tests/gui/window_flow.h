@@ -31,7 +31,6 @@
 #include <algorithm>
 #include <deque>
 #include <fstream>
-#include <iterator>
 
 // Texts as the failures of the checks show them.
 inline void PrintTo(const QString& text, std::ostream* out)
@@ -118,17 +117,6 @@ private:
     }
     QWidget m_box;
 };
-
-inline QString qpath(const fs::path& path)
-{
-    return to_qstring(path);
-}
-
-inline std::string contents(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 class MainWindowFlow : public ::testing::Test {
 protected:
@@ -258,7 +246,7 @@ protected:
     QString write(const std::string& name, Model& m)
     {
         EXPECT_FALSE(WriteProject(m, m_folder / name).has_value()) << name;
-        return qpath(m_folder / name);
+        return to_qstring(m_folder / name);
     }
     // The example beam on three spans of 4, 5 and 6 m, with G and Q1 on span 3.
     static std::unique_ptr<Model> three_spans()

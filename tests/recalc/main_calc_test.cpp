@@ -11,25 +11,6 @@
 namespace kvelder::test {
 namespace {
 
-std::unique_ptr<Model> busy_beam()
-{
-    auto m = example_beam();
-    m->nsupLeft_s = kBuiltIn;
-    m->nsupRight_s = kFree;
-    set_span_count(*m, 3);
-    m->ffl_s(3) = 3.0F;
-    m->loadcomb_option = 2;
-    m->profile_weight_on = kTrue;
-    m->vipping_off = kFalse;
-    m->l_stag(3) = 3.0F;
-    add_trapezoid(m->G, 1, 1.0F, 4.0F, 0.5F, 3.0F);
-    add_point(m->Q1, 2, 12.0F, 2.2F);
-    add_uniform(m->Q1, 3, 2.0F);
-    add_moment(m->Q1, 1, 3.0F, 1.0F);
-    add_point(m->Q2, 3, 4.0F, 2.9F);
-    return m;
-}
-
 TEST(MainCalc, TheExampleBeamCarriesItsLoadsIntoUsageFactors)
 {
     auto m = example_beam();
@@ -64,7 +45,7 @@ TEST(MainCalc, TheExampleBeamCarriesItsLoadsIntoUsageFactors)
 // run, or one after another beam, finds every table as the first left it.
 TEST(MainCalc, RunsLeaveNothingBehindForTheNext)
 {
-    auto m = busy_beam();
+    auto m = loaded_beam();
     m->loading_flag = kTrue;
     m->nf_previous = 1;
     RecordingScreen screen;
@@ -80,7 +61,7 @@ TEST(MainCalc, RunsLeaveNothingBehindForTheNext)
         beam.Q1.pt_P(1) = 1.0F;
         beam.Q1.mom_M(1) = -0.5F;
     };
-    auto fresh = busy_beam();
+    auto fresh = loaded_beam();
     lighter(*fresh);
     MainCalc(*fresh, screen, scratch_folder());
     lighter(*m);
@@ -94,7 +75,7 @@ TEST(MainCalc, RunsLeaveNothingBehindForTheNext)
     MainCalc(*m, screen, scratch_folder());
     EXPECT_GT(m->Uf_mom(1), 0);
     EXPECT_EQ(m->Uf_c90(2), 0); // a circle has no bearing check
-    *m = *busy_beam();
+    *m = *loaded_beam();
     MainCalc(*m, screen, scratch_folder());
     EXPECT_TRUE(*m == *first);
     EXPECT_TRUE(screen.messages.empty());

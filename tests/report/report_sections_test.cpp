@@ -1,21 +1,51 @@
-// The tables of the report: what their lines say, where their numbers stand,
-// and that every section stays on its part of the page.
+// The printed report: what the lines of its tables and check blocks say, where
+// their numbers stand, that every section and the page header stay on their
+// part of the page, and how many pages the whole report takes.
 
 #include "drawing/plot_scale.h"
+#include "report/code_check_report.h"
 #include "report/detail_tables.h"
+#include "report/page_header.h"
+#include "report/print_report.h"
 #include "report/report_sections.h"
-#include "tests/report/page_image.h"
+#include "report/report_text.h"
 #include "tests/support/beams.h"
 #include "ui/edits.h"
+#include "ui/load_checks.h"
 
+#include <QBuffer>
 #include <QImage>
-
+#include <QPdfWriter>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace kvelder::test {
 namespace {
+
+// A report page of 200 x 290 mm at 4 pixels a millimetre, and the extent of
+// its ink.
+struct PageImage {
+    QImage image{800, 1160, QImage::Format_RGB32};
+    PageImage() { image.fill(Qt::white); }
+    // left, right, bottom, top in millimetres, y up; an empty page gives left > right.
+    std::array<float, 4> ink() const
+    {
+        int left = image.width(), right = -1, top = image.height(), bottom = -1;
+        for (int py = 0; py < image.height(); ++py) {
+            const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(py));
+            for (int px = 0; px < image.width(); ++px) {
+                if (row[px] != qRgb(255, 255, 255)) {
+                    left = std::min(left, px), right = std::max(right, px);
+                    top = std::min(top, py), bottom = std::max(bottom, py);
+                }
+            }
+        }
+        return {left / 4.0F, (right + 1) / 4.0F, 290 - (bottom + 1) / 4.0F, 290 - top / 4.0F};
+    }
+};
 
 std::vector<std::string> texts(const TableLine& line)
 {
@@ -38,13 +68,7 @@ bool shows(const std::vector<TableLine>& lines, std::string_view text)
     return false;
 }
 
-float height(const std::vector<TableLine>& lines)
-{
-    return std::accumulate(lines.begin(), lines.end(), 0.0F,
-                           [](float h, const TableLine& l) { return h + l.pitch; });
-}
-
-// Five spans, a circle, and every load table of every group holding rows.
+// Five spans, a circle, and every row of every load table of every group.
 std::unique_ptr<Model> round_five_spans()
 {
     auto m = example_beam();
@@ -78,7 +102,9 @@ TEST(LoadTables, GroupsTakeTheRoomTheDriverReservesAndColumnsLineUp)
     const auto lines = load_lines(*m);
     // G and Q1 each: heading, titles, heads and two rows (12 mm and 3.5 a row);
     // the empty Q2 leaves neither heading nor gap.
-    EXPECT_FLOAT_EQ(height(lines), 2 * (12 + 2 * kLoadPitch));
+    EXPECT_FLOAT_EQ(std::accumulate(lines.begin(), lines.end(), 0.0F,
+                                    [](float h, const TableLine& l) { return h + l.pitch; }),
+                    2 * (12 + 2 * kLoadPitch));
     EXPECT_FALSE(shows(lines, "Variable loads Q2: "));
     EXPECT_TRUE(shows(lines, "(Selfweight of beam included as permanent load)"));
     EXPECT_EQ(texts(lines[1]), (std::vector<std::string>{"Uniform loads", "Trapezoidal loads", "Moment loads",
@@ -191,6 +217,165 @@ TEST(ReportSections, EachDrawsWithinTheColumnOfTheReportAndBelowItsStart)
             }
         }
     }
+}
+
+TEST(PageHeader, StaysInItsBoxWithALongProjectNameInBothLanguages)
+{
+    auto m = example_beam();
+    m->prosjekt_s = "Lagerhall med mange felt og en svært lang prosjekttittel som ikke får plass på én linje";
+    for (const char* language : {"Eng", "Nor"}) {
+        m->language = language;
+        PageImage page;
+        {
+            PlotSurface s(page.image);
+            SetPlotScale(s, 0, 290, 200, 0);
+            PrintPageHeader(s, *m, {"C:\\Prosjekter\\hall.kvel", "23.11.2026", "14:05:09"}, 15, 285, 3);
+        }
+        const auto [left, right, bottom, top] = page.ink();
+        EXPECT_NEAR(left, 15, 0.5) << language;
+        EXPECT_NEAR(right, 185, 0.5) << language;
+        EXPECT_NEAR(bottom, 266, 0.5) << language;
+        EXPECT_NEAR(top, 285, 0.5) << language;
+    }
+}
+
+TEST(ReportText, PrintRightEndsAtItsEdgeWhateverTheText)
+{
+    for (const char* text : {"1.00", "-1234.56"}) {
+        PageImage page;
+        {
+            PlotSurface s(page.image);
+            SetPlotScale(s, 0, 290, 200, 0);
+            SetTableFont(s);
+            PrintRight(s, 100, 200, text);
+        }
+        const auto ink = page.ink();
+        EXPECT_NEAR(ink[1], 100, 0.6) << text;
+        EXPECT_LT(ink[0], 99) << text;
+    }
+}
+
+std::vector<std::string> check_texts(const Model& m, int span)
+{
+    std::vector<std::string> out;
+    for (const CheckLine& line : BuildCheckTexts(m, span)) {
+        out.push_back(line.text + "|" + line.ratio + "|" + line.outcome);
+    }
+    return out;
+}
+
+TEST(CodeCheckReport, SpanBlockPrintsEachStoredResultInItsPlaceInBothLanguages)
+{
+    // A cantilever under downward load has hogging only: its negative line stands at nought.
+    auto cantilever_run = calculated(cantilever(2.0F));
+    const auto lines = check_texts(*cantilever_run, 1);
+    ASSERT_GE(lines.size(), 6U);
+    EXPECT_EQ(lines[4], "Max. negative moment: 0.0 kNm||");
+    EXPECT_EQ(lines[5].rfind("UF  = sigma_neg / fm,y,d|0.0 / ", 0), 0U) << lines[5];
+    EXPECT_NE(lines[2], "Max. posetive moment: 0.0 kNm||");
+
+    // Results of a real run, each then set apart so that a field read in the wrong place shows.
+    auto m = calculated(loaded_beam());
+    ASSERT_EQ(m->vipping_off, 0);
+    m->fmd = 21.456F, m->fvd = 2.349F;
+    m->M_pos(3) = 12.34F, m->sigma_pos(3) = 8.25F, m->Uf_pos(3) = 0.3845F, m->x_pos(3) = 0.0F;
+    m->M_neg(3) = 7.06F, m->sigma_neg(3) = 4.71F, m->Uf_neg(3) = 0.2195F, m->x_neg(3) = 3.125F;
+    m->V_pos(3) = 9.9F, m->V_neg(3) = -15.26F, m->V_gov(3) = -15.26F;
+    m->tau_gov(3) = 1.04F, m->Uf_tau(3) = 1.0049F, m->xt_gov(3) = 6.0F;
+    m->Uf_mom(3) = 0.91F, m->M_gov(3) = 99.0F, m->x_mom(3) = 5.5F;
+    m->sigma_ltb(3) = 4.44F, m->k_crit(3) = 0.8749F, m->Uf_ltb(3) = 0.2365F;
+    const std::vector<std::string> english{
+        "Span no.    3||",
+        "Section Control: ||",
+        "Max. posetive moment: 12.3 kNm||",
+        "UF  =  sigma_pos / fm,y,d|8.3 / 21.5|0.38        <  1.0         at   xl   =   0.00",
+        "Max. negative moment: 7.1 kNm||",
+        "UF  = sigma_neg / fm,y,d|4.7 / 21.5|0.22        <  1.0         at   xl   =   3.13",
+        "Shear: -15.3 kN||",
+        "UF  =  Tau / fv,d|1.0 / 2.3|1.00        <  1.0         at   xl   =   6.00",
+        "Lateral buckling: ||",
+        "UF  = Sigma / fm,y,d x k_crit|4.4 / 21.5 x 0.87|0.24",
+    };
+    EXPECT_EQ(check_texts(*m, 3), english);
+    EXPECT_TRUE(BuildCheckTexts(*m, 3).front().bold);
+
+    m->language = "Nor";
+    m->decimal_comma = 1;
+    const auto norwegian = check_texts(*m, 3);
+    ASSERT_EQ(norwegian.size(), english.size());
+    EXPECT_EQ(norwegian[0], "Felt nr.    3||");
+    EXPECT_EQ(norwegian[1], "Tverrsnitts kontroll: ||");
+    EXPECT_EQ(norwegian[2], "Maks. posetivt moment: 12,3 kNm||");
+    EXPECT_EQ(norwegian[4], "Maks. negativt moment: 7,1 kNm||");
+    EXPECT_EQ(norwegian[6], "Skjær: -15,3 kN||");
+    EXPECT_EQ(norwegian[8], "Vipping: ||");
+    EXPECT_EQ(norwegian[9], "UF  = Sigma / fm,y,d x k_crit|4,4 / 21,5 x 0,87|0,24");
+
+    // Without a check the block ends in one sentence, and a circle wins over a held compression side.
+    m->vipping_off = kTrue;
+    EXPECT_EQ(check_texts(*m, 3).back(), "Vipping:  Ingen vipping, trykkside kontinuerlig avstivet. ||");
+    m->section_form = "Tube";
+    EXPECT_EQ(check_texts(*m, 3).back(), "Vipping:  Ingen vipping, sirkulært profil. ||");
+    m->language = "Eng";
+    EXPECT_EQ(check_texts(*m, 3).back(), "Lateral buckling:  No lateral buckling, circular profile. ||");
+    m->section_form = "Firk";
+    EXPECT_EQ(check_texts(*m, 3).back(),
+              "Lateral buckling:  No lateral buckling, compression side supported. ||");
+    EXPECT_EQ(check_texts(*m, 3).size(), english.size() - 1);
+}
+
+TEST(CodeCheckReport, EachSpanTakesAboutTwentySevenMillimetres)
+{
+    auto m = calculated(loaded_beam());
+    PageImage page;
+    PlotSurface s(page.image);
+    SetPlotScale(s, 0, 290, 200, 0);
+    const float below = PrintCodeCheck(s, *m, 15, 200, 1, 3);
+    EXPECT_NEAR(200 - below, 3 * 27, 6);
+}
+
+// The pages the report of a beam takes, printed into a PDF in memory.
+int pages(const Model& m, bool detailed)
+{
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&pdf);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    PlotSurface surface(writer);
+    const int count = PrintReport(surface, m, {"beam.kvel", "23.11.2026", "12:00:00"}, {detailed});
+    surface.EndDoc();
+    return count;
+}
+
+// The example beam on `nf` spans of 5 m each, as the window makes it, calculated.
+std::unique_ptr<Model> spans(int nf)
+{
+    auto m = example_beam();
+    LoadDialogs dialogs = load_dialogs(*m);
+    choose_span_count(*m, nf, dialogs);
+    for (int i = 1; i <= nf; ++i) {
+        set_span_length(*m, i, 5.0F, dialogs);
+    }
+    return calculated(std::move(m));
+}
+
+TEST(ReportPages, FollowTheSpansAndTheDetailAndFullLoadTablesBreakOnward)
+{
+    // G and Q1 of two rows each: 87 + 2 x 3.5, then 12 + 2 x 3.5.
+    EXPECT_FLOAT_EQ(ReportHeightOfLoads(*spans(2)), 113.0F);
+    for (int nf = 1; nf <= 5; ++nf) {
+        const auto m = spans(nf);
+        const int compressed = nf <= 2 ? 2 : 3;
+        EXPECT_EQ(pages(*m, false), compressed) << nf;
+        // Five spans' governing loads run onto a page of their own.
+        EXPECT_EQ(pages(*m, true), compressed + (nf < 5 ? 1 : 2)) << nf;
+    }
+
+    // Every row of every load table: the plots of the loads take a page of their own.
+    const auto full = round_five_spans();
+    EXPECT_EQ(pages(*full, false), 4);
+    // Its forces along the beam run past the end of a page and go on on the next.
+    EXPECT_GE(pages(*full, true), 6);
 }
 
 } // namespace

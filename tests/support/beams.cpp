@@ -9,8 +9,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <fstream>
+#include <iterator>
 #include <random>
-#include <string>
 
 namespace kvelder::test {
 
@@ -109,6 +110,12 @@ const std::filesystem::path& scratch_folder()
 {
     static const TemporaryFolder folder;
     return folder.path;
+}
+
+std::string contents(const std::filesystem::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 void recalculate(Model& m)

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <initializer_list>
 #include <memory>
+#include <string>
 
 namespace kvelder::test {
 
@@ -33,6 +34,9 @@ void add_moment(LoadGroup& g, int span, float M, float a);
 
 // A folder of its own for the scratch files of this test process.
 const std::filesystem::path& scratch_folder();
+
+// The bytes of a file, empty where there is none.
+std::string contents(const std::filesystem::path& path);
 
 // Builds the calculation grids and runs the analysis on the factors as set.
 void recalculate(Model& m);

@@ -1,6 +1,8 @@
-// The captions of the main window in both languages, and what a switch of language leaves.
+// The captions of the main window and the load dialogs in both languages, and
+// what a switch of language leaves.
 
 #include "ui/captions.h"
+#include "ui/load_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -88,9 +90,24 @@ TEST(Captions, NameTheFamiliesAndTheProgram)
     EXPECT_EQ(family_names("Eng"), (std::array<std::string, 4>{"Timber", "Laminated", "Kerto", "K-bjelke"}));
     EXPECT_EQ(family_names("Nor"), (std::array<std::string, 4>{"Trelast", "Laminert", "Kerto", "K-bjelke"}));
     EXPECT_EQ(program_title(), "Kvelder");
-    EXPECT_EQ(program_line("Eng"), "Analysis of a beam according to EC5");
-    EXPECT_EQ(program_line("Nor"), "Beregning av en bjelke if\u00f8lge EC5");
     EXPECT_EQ(version_line(), "Version  1.3.0");
+}
+
+// The walk, the boxes and OK are driven through the dialogs in the widget flows.
+TEST(LoadDialogControls, NamesAndTextsFollowTheGroup)
+{
+    EXPECT_EQ(load_box_name(LoadGroupId::Q2, LoadTable::Trapezoid, 1, 3), "TxtQ1N_2_t_3");
+    EXPECT_EQ(load_box_name(LoadGroupId::Q1, LoadTable::Point, 2, 9), "TxtcN_9");
+    EXPECT_EQ(load_box_name(LoadGroupId::G, LoadTable::Moment, 2, 5), "TxtdE_5");
+
+    const auto nor_g = load_dialog_captions("Nor", LoadGroupId::G);
+    const auto nor_q = load_dialog_captions("Nor", LoadGroupId::Q1);
+    EXPECT_EQ(text_of(nor_g, "frm_B_egenlast"), "Permanente laster (G)");
+    EXPECT_EQ(text_of(nor_q, "frm_B_nyttelast"), "Variabel last (Q1)");
+    EXPECT_EQ(text_of(nor_g, "Fra_mom"), "Moment laster (kNm, m)");
+    EXPECT_EQ(text_of(nor_q, "Fra_mom"), "Moment laster (kNm ,m)");
+    EXPECT_EQ(text_of(nor_q, "cmd_n_last_clear"), "Fjern alle laster");
+    EXPECT_EQ(text_of(load_dialog_captions("Eng", LoadGroupId::Q2), "Lblf_p"), " Span");
 }
 
 } // namespace

@@ -1,8 +1,13 @@
-// What each control does to the beam: the rules the window and kvelder-cli share.
+// What each control does to the beam: the rules the window and kvelder-cli
+// share, the setup dialog's on the setup table as shipped, the braces and
+// factors of the buckling check, and the checks of single boxes, of the spans
+// and of the supports.
 
 #include "tests/support/beams.h"
 #include "ui/edits.h"
+#include "ui/input_checks.h"
 #include "ui/load_checks.h"
+#include "ui/setup_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -146,31 +151,148 @@ TEST(Supports, LoadsOnANewSupportLoseTheirRows)
     EXPECT_EQ(m->support_kind(3), kBuiltIn);
 }
 
-TEST(Setup, PsiAndClassesGiveTheirFactors)
+TEST(SetupDialogRules, EachAnnexShowsItsClassesACountryChangeKeepsTheRowLeftAndTheListsGiveTheirFactors)
 {
     auto m = example_beam();
+    EXPECT_EQ(country_items(m->setup),
+              (std::vector<std::string>{"EC5 + NS-EN 1990 NA", "EC5 + EKS", "EC5 + EN 1990 recommended"}));
+    m->setup.setup_table[2].annex_title.clear();
+    EXPECT_EQ(country_items(m->setup).back(), "EC5 ");
+    EXPECT_EQ(psi_items(PsiList::Psi0_Q2).front(), "0.2");
+    EXPECT_EQ(psi_items(PsiList::Psi2_Q1).back(), "1.0");
+
+    EXPECT_EQ(setup_view(*m).frame, ClassFrame::Norway);
+    choose_safety_class(*m, 1);
+    EXPECT_TRUE(setup_view(*m).norway_class_1);
+    EXPECT_EQ(setup_view(*m).kfi, "0.90");
+    choose_language(*m, "Nor");
+
+    change_country(*m, 1); // Sweden: its safety classes and the exposed beam's kcr
+    const SetupView sweden = setup_view(*m);
+    EXPECT_EQ(sweden.frame, ClassFrame::Sweden);
+    EXPECT_TRUE(sweden.kcr_check);
+    EXPECT_EQ(sweden.sweden_option, 2);
+    EXPECT_EQ(sweden.kfi, "0.91"); // Sweden's class 2, not Norway's class 1 still in force
+    EXPECT_EQ(m->language, "Nor");
+    change_country(*m, 0);
+    EXPECT_EQ(m->safety_class, 1); // the row left kept its class
+    change_country(*m, 2);
+    EXPECT_EQ(setup_view(*m).frame, ClassFrame::None);
+    EXPECT_FALSE(setup_view(*m).kcr_check);
+
+    // The lists and classes give their factors.
     choose_psi(*m, PsiList::Psi0_Q1, 4);
     choose_psi(*m, PsiList::Psi2_Q2, 0);
     EXPECT_EQ(m->psi0_1, f32(0.6));
     EXPECT_EQ(m->psi2_2, 0.0F);
     EXPECT_EQ(psi_list_size(PsiList::Psi0_Q2), 9);
-    choose_safety_class(*m, 1);
-    EXPECT_EQ(m->kfi, 0.9F); // Norway's class 1
-
-    int swedish = -1;
-    for (int r = 0; r <= m->setup.setup_last_row; ++r) {
-        if (m->setup.setup_table[static_cast<std::size_t>(r)].annex == "Swe") {
-            swedish = r;
-        }
-    }
-    ASSERT_GE(swedish, 0);
-    choose_annex_row(*m, swedish);
+    choose_annex_row(*m, 1); // Sweden
     EXPECT_EQ(m->annex, "Swe");
-    EXPECT_EQ(m->psi0_1_index, m->setup.setup_table[static_cast<std::size_t>(swedish)].psi0_1_index);
+    EXPECT_EQ(m->psi0_1_index, m->setup.setup_table[1].psi0_1_index);
     choose_safety_class(*m, 1);
     EXPECT_EQ(m->kfi, 0.83F);
-    EXPECT_EQ(set_ksys(*m, 1.21F)->text, " 1 <= ksys <= 1.2");
-    EXPECT_FALSE(set_ksys(*m, 1.2F));
+}
+
+TEST(BucklingData, ASpanWithoutLengthGetsItsBracesWithItAndRefusedValuesNeverReachTheBeam)
+{
+    auto m = example_beam();
+    LoadDialogs d = load_dialogs(*m);
+    set_buckling_check(*m, true);
+    ASSERT_FALSE(set_l_stag(*m, 1, 2.5F));
+    EXPECT_FALSE(window_box_failure(*m));
+
+    // A new span has no length when the braces are reset; its length brings them.
+    choose_span_count(*m, 3, d);
+    set_l_stag(*m, 1, 2.5F);
+    set_span_length(*m, 3, 4.0F, d);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+    // Braces the engineer set stay, also beyond a span made shorter.
+    set_span_length(*m, 1, 2.0F, d);
+    EXPECT_EQ(m->l_stag(1), 2.5F);
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
+
+    // Braces reset while a span had no length come with the check.
+    set_buckling_check(*m, false);
+    m->l_stag(3) = 0;
+    set_buckling_check(*m, true);
+    EXPECT_EQ(m->l_stag(3), 4.0F);
+
+    // A refused value is not taken: no result is ever calculated from it.
+    const auto failure = set_lef_factor(*m, 2, 2.1F);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(m->lef_factor(2), 0.9F);
+    EXPECT_TRUE(set_l_stag(*m, 2, 0.3F));
+    EXPECT_EQ(m->l_stag(2), 5.0F);
+    EXPECT_FALSE(window_box_failure(*m));
+    choose_load_location(*m, 2); // no option of the dialog
+    EXPECT_EQ(m->load_location, 0);
+}
+
+TEST(BoxChecks, RefuseValuesAtTheirLimitsAsTheWindowDoes)
+{
+    auto m = example_beam();
+    const struct {
+        Box box;
+        float value;
+        bool passes;
+    } cases[] = {
+        {Box::Ksys, 1.2F, true},         {Box::Ksys, 1.21F, false},       {Box::Ksys, 0.99F, false},
+        {Box::SetupFactor, 0.1F, false}, {Box::SetupFactor, 0.11F, true}, {Box::LefFactor, 2.0F, true},
+        {Box::LefFactor, 0.2F, true},    {Box::LefFactor, 0.19F, false},  {Box::LStag, 0.3F, false},
+        {Box::LStag, 5.0F, true},        {Box::LStag, 5.01F, false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(!check_box(*m, c.box, c.value, 1).has_value(), c.passes)
+            << static_cast<int>(c.box) << " " << c.value;
+    }
+    // The window's flows see the English words of the boxes it has.
+    m->language = "Nor";
+    EXPECT_EQ(check_box(*m, Box::Width, 0)->text, "b =< 0 ");
+    EXPECT_EQ(check_box(*m, Box::BearingLength, 0)->text, "Oppleggslengde =< 0 ");
+    EXPECT_EQ(check_box(*m, Box::LStag, 9, 1)->text, " l_stag =< 0.3 m eller > feltlengde");
+}
+
+TEST(SpanAndSupportChecks, StopAtTheFirstMissingSpanAndCountTheRestraints)
+{
+    auto m = example_beam();
+    m->nf = 3;
+    m->ffl_s(2) = 0;
+    m->ffl_s(3) = 0;
+    const auto failure = check_spans(*m);
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->span, 2);
+    EXPECT_EQ(m->err_spans, kTrue);
+    EXPECT_EQ(failure->message.title, "Lenght of span");
+    m->ffl_s(2) = m->ffl_s(3) = 4;
+    EXPECT_FALSE(check_spans(*m).has_value());
+    EXPECT_EQ(m->err_spans, kFalse);
+
+    m = example_beam();
+    m->nsupLeft_s = kFree;
+    m->nsupRight_s = kFree;
+    EXPECT_EQ(check_supports(*m)->title, "Support conditions");
+    EXPECT_EQ(m->err_supports, kTrue);
+    m->nf = 1, m->nnodes = 2, m->nsupLeft_s = kBuiltIn; // a cantilever
+    EXPECT_FALSE(check_supports(*m).has_value());
+    EXPECT_EQ(m->err_supports, kFalse);
+    m->nsupLeft_s = kSimple; // one support under one span
+    EXPECT_TRUE(check_supports(*m).has_value());
+}
+
+TEST(AllBoxes, CheckOnlyTheBoxesTheBeamShows)
+{
+    auto m = example_beam();
+    EXPECT_TRUE(check_all_boxes(*m).empty());
+    m->section_b = 0;
+    m->lef_factor(1) = 5; // the buckling boxes are hidden while the check is off
+    EXPECT_EQ(check_all_boxes(*m).size(), 1U);
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
+    m->section_form = "Tube";
+    EXPECT_TRUE(check_all_boxes(*m).empty());
+    m->vipping_off = kFalse;
+    EXPECT_EQ(check_buckling_boxes(*m).size(), 1U);
+    m->ffl_s(2) = 0; // the span check comes first
+    EXPECT_TRUE(check_buckling_boxes(*m).empty());
 }
 
 } // namespace

@@ -1,17 +1,18 @@
-// The file menu: what open, save and new leave in the session, the recent
-// files and on disk.
+// The file menu: what open, save and new leave in the beam, the session, the
+// four recent files and on disk, as the window and kvelder-cli do them.
 
 #include "files/path_text.h"
 #include "files/project_file.h"
+#include "files/recent_files.h"
 #include "recalc/main_calc.h"
 #include "tests/support/beams.h"
 #include "ui/file_command.h"
 #include "ui/load_checks.h"
+#include "ui/project_actions.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 
 namespace kvelder::test {
 namespace {
@@ -29,10 +30,38 @@ Paths paths(const RecentFilesInMemory& s)
     return out;
 }
 
-void recalculated(Model& m)
+std::vector<Message> recalculated(Model& m)
 {
     RecordingScreen screen;
     MainCalc(m, screen, scratch_folder());
+    return screen.messages;
+}
+
+TEST(RecentFiles, AFreshUserHasNoneAndOpeningReordersTheList)
+{
+    RecentFilesInMemory s;
+    EXPECT_TRUE(ShowRecentFiles(s).empty());
+    s.keys[2] = "/a.kvel"; // without a first entry the list stays hidden
+    EXPECT_TRUE(ShowRecentFiles(s).empty());
+
+    s.keys = {{1, "A"}, {2, "B"}, {3, "C"}, {4, "D"}};
+    MoveRecentFile(s, "A");
+    EXPECT_EQ(paths(s), (Paths{"A", "B", "C", "D"}));
+    MoveRecentFile(s, "C");
+    EXPECT_EQ(paths(s), (Paths{"C", "A", "B", "D"}));
+    MoveRecentFile(s, "D");
+    EXPECT_EQ(paths(s), (Paths{"D", "C", "A", "B"}));
+    MoveRecentFile(s, "E");
+    EXPECT_EQ(paths(s), (Paths{"E", "D", "C", "A"}));
+    EXPECT_EQ(s.keys.size(), 4U); // the fourth drops out, no fifth key
+
+    // Names beyond the code page come back from their captions letter for letter.
+    const std::string loft = "bjelke p\u00e5 loftet.kvel", euro = "B\u201312 \u20ac.kvel";
+    RecentFilesInMemory named;
+    named.keys = {{1, path_from_utf8(loft)}, {2, path_from_utf8(euro)}};
+    MoveRecentFile(named, path_from_utf8("\u03a9-bjelke.kvel"));
+    MoveRecentFile(named, path_from_utf8(euro));
+    EXPECT_EQ(paths(named), (Paths{euro, "\u03a9-bjelke.kvel", loft}));
 }
 
 fs::path empty_folder(const std::string& name)
@@ -41,12 +70,6 @@ fs::path empty_folder(const std::string& name)
     fs::remove_all(folder);
     fs::create_directories(folder);
     return folder;
-}
-
-std::string contents(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 TEST(FileCommand, SaveAndOpenTakeThePathItsFolderAndMoveItToTheFront)
@@ -139,6 +162,74 @@ TEST(FileCommand, NamesFromTheCommandLineAndTheSaveDialog)
     EXPECT_EQ(with_default_extension("/p/beam"), fs::path("/p/beam.kvel"));
     EXPECT_EQ(with_default_extension("/p/beam.kvel"), fs::path("/p/beam.kvel"));
     EXPECT_EQ(with_default_extension("/p.d/beam"), fs::path("/p.d/beam.kvel"));
+}
+
+TEST(OpenProject, ABeamThatCannotBeCalculatedStopsAtTheGate)
+{
+    // Saved while a span box was still marked wrong, or standing on two free ends.
+    auto zero_span = example_beam();
+    zero_span->ffl_s(2) = 0.0F;
+    auto free_ends = example_beam();
+    free_ends->nsupLeft_s = free_ends->nsupRight_s = kFree;
+    for (Model* saved : {zero_span.get(), free_ends.get()}) {
+        const fs::path path = scratch_folder() / "gate.kvel";
+        ASSERT_FALSE(save_project(*saved, path));
+        auto m = example_beam();
+        LoadDialogs dialogs;
+        ASSERT_FALSE(open_project(*m, path, dialogs));
+        const std::vector<Message> messages = recalculated(*m);
+        ASSERT_EQ(messages.size(), 1U);
+        EXPECT_EQ(messages[0].code, 500);
+    }
+}
+
+// A project cut short in its last block fails after the catalogues and the
+// setup were read: still nothing of it may reach the beam.
+TEST(OpenProject, AFailedOpenChangesNothing)
+{
+    auto other = example_beam();
+    other->nf = 1;
+    other->G.uni_q(1) = 7.5F;
+    std::vector<std::byte> bytes = project_bytes(*other);
+    bytes.resize(bytes.size() - 40);
+    const fs::path path = scratch_folder() / "cut.kvel";
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+
+    auto m = example_beam();
+    m->ffl_s(2) = 0; // flags the checks of a successful open would clear
+    m->err_spans = kTrue;
+    const auto before = std::make_unique<Model>(*m);
+    LoadDialogs dialogs = load_dialogs(*m);
+    const LoadDialogs dialogs_before = dialogs;
+    const auto failed = open_project(*m, path, dialogs);
+    ASSERT_TRUE(failed);
+    EXPECT_EQ(failed->kind, ProjectFailure::Kind::NotAProject);
+    EXPECT_TRUE(open_project_bytes(*m, bytes, dialogs).has_value());
+    EXPECT_TRUE(*m == *before);
+    EXPECT_EQ(dialogs, dialogs_before);
+}
+
+// A beam left with no load at all holds every later run at the gate; a new or
+// opened beam with loads must not inherit that.
+TEST(NewProject, TheExampleBeamCalculatesAfterABeamWithoutLoads)
+{
+    auto m = example_beam();
+    m->G = m->Q1 = m->Q2 = LoadGroup{};
+    recalculated(*m);
+    ASSERT_EQ(m->err_section, kTrue);
+    m->ffl_s(1) = 0;
+    m->err_spans = kTrue;
+
+    LoadDialogs dialogs;
+    new_project(*m, dialogs);
+    EXPECT_EQ(m->loading_flag, kTrue);
+    EXPECT_EQ(m->ffl_s(1), 5.0F);
+    EXPECT_EQ(dialogs[0].frames[0].size(), 2U); // G's two uniform rows in their boxes
+    EXPECT_EQ(dialogs[0].frames[0][1][1], "2.00");
+    EXPECT_TRUE(recalculated(*m).empty());
+    EXPECT_EQ(m->loading_flag, kFalse);
+    EXPECT_GT(m->Uf_mom(1), 0.0F);
 }
 
 } // namespace
