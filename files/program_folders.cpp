@@ -1,14 +1,7 @@
 #include "files/program_folders.h"
 
 #include "files/data_files.h"
-
-#ifdef _WIN32
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#endif
+#include "files/windows_api.h"
 
 #include <string>
 #include <system_error>

@@ -1,12 +1,6 @@
 #include "files/replace_file.h"
 
-#ifdef _WIN32
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#endif
+#include "files/windows_api.h"
 
 #include <cerrno>
 #include <chrono>

@@ -1,5 +1,7 @@
 #include "files/text_number.h"
 
+#include "files/windows_api.h"
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
@@ -9,16 +11,6 @@
 #include <locale>
 #include <stdexcept>
 #include <string_view>
-
-#ifdef _WIN32
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
-#endif
 
 namespace kvelder {
 namespace {

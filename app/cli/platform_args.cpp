@@ -1,15 +1,11 @@
 #include "app/cli/platform_args.h"
 
-#ifdef _WIN32
 #include "files/path_text.h"
+#include "files/windows_api.h"
 
 #include <filesystem>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#ifdef _WIN32
 // After windows.h, which it needs.
 #include <shellapi.h>
 #endif
