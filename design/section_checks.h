@@ -9,6 +9,13 @@ namespace kvelder {
 // stage. On equal usage factors the station examined first stands.
 void Control_sections(Model& m);
 
+// Whether lateral torsional buckling is checked: the check is on, and the
+// section a rectangle (a circle does not buckle sideways).
+inline bool buckling_checked(const Model& m)
+{
+    return m.vipping_off == 0 && m.section_form != "Tube";
+}
+
 // Compression across the grain at each node that bears on a simple support:
 // the largest design reaction over the width and the bearing length.
 void Control_support(Model& m);

@@ -10,7 +10,6 @@
 #include "ui/detailed_result.h"
 #include "ui/governing_text.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -51,21 +50,17 @@ DetailedResultDialog::DetailedResultDialog(Workspace& ws, QWidget& main_sizes, Q
     m_profile = named<QLineEdit>("Txt_stand_dim", profile);
     m_profile->setReadOnly(true);
     grid->addWidget(m_profile, 1, 0, 1, 2);
-    m_b_label = named<QLabel>("Lbl_b1", profile);
-    m_h_label = named<QLabel>("Lbl_h1", profile);
-    m_d_label = named<QLabel>("Lbl_tube", profile);
-    m_b = new InputBox("txt_b1", profile);
-    m_h = new InputBox("txt_h1", profile);
-    m_d = new InputBox("Txt_d_tube", profile);
+    m_trials = {
+        TrialBox{Box::Width, named<QLabel>("Lbl_b1", profile), new InputBox("txt_b1", profile)},
+        TrialBox{Box::Height, named<QLabel>("Lbl_h1", profile), new InputBox("txt_h1", profile)},
+        TrialBox{Box::Diameter, named<QLabel>("Lbl_tube", profile), new InputBox("Txt_d_tube", profile)}};
     int r = 2;
-    for (auto [label, box, kind] : {std::tuple{m_b_label, m_b, Box::Width},
-                                    {m_h_label, m_h, Box::Height},
-                                    {m_d_label, m_d, Box::Diameter}}) {
-        box->setFixedWidth(70);
-        box->setAlignment(Qt::AlignRight);
-        box->set_rule([this, box = box, kind = kind] { return trial_rule(*box, kind); });
-        grid->addWidget(label, r, 0);
-        grid->addWidget(box, r++, 1);
+    for (const TrialBox& t : m_trials) {
+        t.box->setFixedWidth(70);
+        t.box->setAlignment(Qt::AlignRight);
+        t.box->set_rule([this, box = t.box, kind = t.kind] { return trial_rule(*box, kind); });
+        grid->addWidget(t.label, r, 0);
+        grid->addWidget(t.box, r++, 1);
     }
     column->addWidget(profile);
 
@@ -111,11 +106,11 @@ void DetailedResultDialog::open_first_span()
     if (!isVisible()) {
         open();
     }
-    draw();
+    explain();
     // The first trial box takes the focus; a profile has none.
-    for (InputBox* box : {m_b, m_d}) {
-        if (box->isVisibleTo(this)) {
-            box->setFocus(Qt::OtherFocusReason);
+    for (const TrialBox& t : m_trials) {
+        if (t.box->isVisibleTo(this)) {
+            t.box->setFocus(Qt::OtherFocusReason);
             return;
         }
     }
@@ -132,22 +127,26 @@ void DetailedResultDialog::arrange()
     m_tube_picture->setVisible(circle);
     m_profile->setVisible(profile);
     m_profile->setText(qs(s.profile));
-    for (QWidget* w : std::initializer_list<QWidget*>{m_b, m_h, m_b_label, m_h_label}) {
-        w->setVisible(rect);
-    }
-    m_d->setVisible(circle);
-    m_d_label->setVisible(circle);
-    for (auto [box, text] : {std::pair{m_b, &s.b}, {m_h, &s.h}, {m_d, &s.d}}) {
-        box->setText(qs(*text));
-        box->set_failed(false);
+    for (const TrialBox& t : m_trials) {
+        const bool shown = t.kind == Box::Diameter ? circle : rect;
+        t.label->setVisible(shown);
+        t.box->setVisible(shown);
+        t.box->setText(qs(t.kind == Box::Width ? s.b : t.kind == Box::Height ? s.h : s.d));
+        t.box->set_failed(false);
     }
     draw_section();
+}
+
+void DetailedResultDialog::explain()
+{
+    m_governing = explain_governing(m_ws.model());
+    draw();
 }
 
 void DetailedResultDialog::draw()
 {
     std::vector<TextLine> lines = Show_span_detail(m_ws.model(), m_span);
-    append_governing_line(lines, m_ws.model(), explain_governing(m_ws.model()), m_span);
+    append_governing_line(lines, m_ws.model(), m_governing, m_span);
     m_text->draw([&lines](PlotSurface& s) { PlotTextLines(s, lines); });
 }
 
@@ -175,17 +174,17 @@ bool DetailedResultDialog::trial_rule(InputBox& box, Box kind)
     });
     if (taken) {
         m_taken = trial_sizes(m_ws.model());
-        draw();
+        explain();
     }
     return taken;
 }
 
 void DetailedResultDialog::reject()
 {
-    for (auto [box, kind] : {std::pair{m_b, Box::Width}, {m_h, Box::Height}, {m_d, Box::Diameter}}) {
-        if (box->failed()) {
-            const std::string text = restore_trial_size(m_ws.model(), kind, m_taken);
-            if (auto* main_box = m_main_sizes.findChild<InputBox*>(main_box_name(kind))) {
+    for (const TrialBox& t : m_trials) {
+        if (t.box->failed()) {
+            const std::string text = restore_trial_size(m_ws.model(), t.kind, m_taken);
+            if (auto* main_box = m_main_sizes.findChild<InputBox*>(main_box_name(t.kind))) {
                 main_box->setText(qs(text));
                 main_box->set_failed(false);
             }

@@ -2,11 +2,13 @@
 
 #include "ui/input_checks.h"
 
+#include "model/governing.h"
 #include "ui/detailed_result.h"
 
 #include <QDialog>
 
 #include <array>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -40,18 +42,23 @@ private:
     void draw_section();
     bool trial_rule(InputBox& box, Box kind);
 
+    // A trial size: which size, its caption and its box.
+    struct TrialBox {
+        Box kind;
+        QLabel* label = nullptr;
+        InputBox* box = nullptr;
+    };
+    // What governs the results on show, found once per run, not per redraw.
+    void explain();
+
     Workspace& m_ws;
     QWidget& m_main_sizes;
     int m_span = 1;
     std::array<QRadioButton*, 5> m_options{};
     QLineEdit* m_profile = nullptr;
-    InputBox* m_b = nullptr;
-    InputBox* m_h = nullptr;
-    InputBox* m_d = nullptr;
+    std::array<TrialBox, 3> m_trials{}; // width, height, diameter
     TrialSizes m_taken;
-    QLabel* m_b_label = nullptr;
-    QLabel* m_h_label = nullptr;
-    QLabel* m_d_label = nullptr;
+    std::optional<GoverningStates> m_governing;
     PictureBox* m_rect_picture = nullptr;
     PictureBox* m_tube_picture = nullptr;
     PictureBox* m_text = nullptr;

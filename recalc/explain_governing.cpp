@@ -4,6 +4,7 @@
 #include "combination/patterns.h"
 #include "combination/runner.h"
 #include "combination/scratch_files.h"
+#include "design/section_checks.h"
 #include "recalc/run_analysis.h"
 
 #include <array>
@@ -162,7 +163,7 @@ public:
     // else the support end of a cantilever.
     std::optional<GoverningValue> buckling(int i) const
     {
-        if (m_m.vipping_off != 0 || m_m.section_form == "Tube" || m_m.Uf_ltb(i) == 0) {
+        if (!buckling_checked(m_m) || m_m.Uf_ltb(i) == 0) {
             return std::nullopt;
         }
         for (int j = m_m.nxtot_s(i); j >= 3; --j) {

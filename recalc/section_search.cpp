@@ -32,7 +32,7 @@ void worst_usage(const Model& m, SectionCandidate& c)
     for (int i = 1; i <= m.nf; ++i) {
         consider(m.Uf_mom(i), GoverningCheck::Bending);
         consider(m.Uf_tau(i), GoverningCheck::Shear);
-        if (m.vipping_off == 0 && rectangle) {
+        if (buckling_checked(m)) {
             consider(m.Uf_ltb(i), GoverningCheck::Buckling);
         }
     }
@@ -179,9 +179,12 @@ SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, 
         }
     }
     std::vector<float> third_lightest; // areas of the passing sections so far
+    // However far apart a catalogue's heights lie, a width tries no more than
+    // this many, so that the search ends within seconds.
+    constexpr int kMostHeights = 2000;
     for (const float b : widths) {
         int passed = 0;
-        for (int k = 0; passed < 3; ++k) {
+        for (int k = 0; passed < 3 && k < kMostHeights; ++k) {
             const float h = least + static_cast<float>(k) * height_step;
             if (h > greatest) {
                 break;
@@ -202,6 +205,10 @@ SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, 
                 ++passed;
                 third_lightest.push_back(b * h);
                 std::sort(third_lightest.begin(), third_lightest.end());
+            } else if (c->governing == GoverningCheck::Bearing) {
+                // The bearing stress of a width only grows with the height's
+                // weight: no taller section of this width passes.
+                break;
             }
         }
     }

@@ -99,7 +99,7 @@ std::vector<TableLine> reaction_lines(const Model& m)
 std::vector<TableLine> governing_lines(const Model& m, const GoverningStates& g)
 {
     constexpr float kMoment = 16, kShear = 40, kBuckling = 64, kDeflection = 88;
-    const bool buckling = m.vipping_off == 0 && m.section_form != "Tube";
+    const bool buckling = buckling_checked(m);
     std::vector<TableLine> lines{
         {{text(26, std::string(pick(m, "G o v e r n i n g   L o a d s   ",
                                     "D i m e n s j o n e r e n d e   L a s t   ")) +

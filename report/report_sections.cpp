@@ -375,7 +375,7 @@ std::string_view load_place_text(const Model& m)
 
 std::vector<TableLine> buckling_lines(const Model& m)
 {
-    if (round_section(m) || m.vipping_off != 0) {
+    if (!buckling_checked(m)) {
         return {{{text(0, pick(m, "No lateral tosional buckling , circular profile",
                                "Ingen vipping , sirkul\u00e6r profil"))}},
                 {{text(0, pick(m, "or compression side of span is contiuously supported",

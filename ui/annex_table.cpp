@@ -44,7 +44,7 @@ AnnexTable annex_table(const std::vector<const Model*>& beams, const std::vector
             [&, i](const Model& m) { return number(m.Uf_mom(i)); });
         row(span + (eng ? "Uf shear" : "Uf skj\u00e6r"),
             [&, i](const Model& m) { return number(m.Uf_tau(i)); });
-        if (first.vipping_off == 0 && first.section_form == "Firk") {
+        if (buckling_checked(first)) {
             row(span + (eng ? "Uf buckling" : "Uf vipping"),
                 [&, i](const Model& m) { return number(m.Uf_ltb(i)); });
         }

@@ -1,5 +1,6 @@
 #include "ui/detailed_result.h"
 
+#include "design/section_checks.h"
 #include "files/code_page.h"
 #include "files/number_format.h"
 #include "ui/box_texts.h"
@@ -66,7 +67,7 @@ std::vector<TextLine> Print_section_lines(const Model& m, int span)
               "UF  =  Tau / fv,d                              =     ", m.tau_gov(i), m.fvd, m.Uf_tau(i),
               "        <  1.0     ", m.xt_gov(i));
     lines.push_back({{pick(m, "Lateral buckling: ", "Vipping: ")}});
-    if (m.vipping_off != 0 || m.section_form == "Tube") {
+    if (!buckling_checked(m)) {
         lines.push_back(
             {{pick(m, " No lateral buckling, circular profile or compression side continuously supported: ",
                    "Ingen vipping, sirkul\u00e6rt profil eller trykkside kontinuerlig avstivet:: ")}});
@@ -92,7 +93,7 @@ std::vector<TextLine> Print_buckling_lines(const Model& m, int span)
 std::vector<TextLine> Show_span_detail(const Model& m, int span)
 {
     std::vector<TextLine> lines = Print_section_lines(m, span);
-    if (m.vipping_off == 0 && m.section_form != "Tube") {
+    if (buckling_checked(m)) {
         const std::vector<TextLine> buckling = Print_buckling_lines(m, span);
         lines.insert(lines.end(), buckling.begin(), buckling.end());
     }

@@ -1,5 +1,7 @@
 #include "ui/governing_text.h"
 
+#include "design/section_checks.h"
+
 namespace kvelder {
 
 std::string load_state_name(const Model& m, const std::optional<GoverningValue>& v)
@@ -30,7 +32,7 @@ std::string governing_line(const Model& m, const GoverningStates& g, int span)
     std::string line = eng ? "Governing loads:  moment " : "Dimensjonerende last:  moment ";
     line += load_state_name(m, s.bending);
     line += (eng ? ",  shear " : ",  skj\u00e6r ") + load_state_name(m, s.shear);
-    if (m.vipping_off == 0 && m.section_form != "Tube") {
+    if (buckling_checked(m)) {
         line += (eng ? ",  buckling " : ",  vipping ") + load_state_name(m, s.buckling);
     }
     line += "  " + expression_text(m) + ";  ";
