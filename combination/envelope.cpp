@@ -6,7 +6,7 @@ namespace kvelder {
 
 namespace {
 
-inline void copy_rule(float c, float& max, float& min)
+void copy_rule(float c, float& max, float& min)
 {
     if (c > 0) {
         max = c;
@@ -39,11 +39,6 @@ template <typename Rule> void support_fields(Model& m, Rule rule)
 }
 
 } // namespace
-
-void copy_into_envelope(float c, float& max, float& min)
-{
-    copy_rule(c, max, min);
-}
 
 void deflection_envelope(Model& m, int i)
 {

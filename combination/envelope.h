@@ -29,6 +29,5 @@ inline void update_envelope(float c, float& max, float& min)
     max = positive && max < c ? c : max;
     min = !positive && std::fabs(c) > std::fabs(min) ? c : min;
 }
-void copy_into_envelope(float c, float& max, float& min);
 
 } // namespace kvelder

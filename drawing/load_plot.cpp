@@ -11,11 +11,6 @@ namespace {
 constexpr int kBandArrow = 4;
 constexpr int kLoadArrow = 6;
 
-std::string number(const Model& m, double v, std::string_view pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 // An arrow of a band at x (pixels): its head at the base or at the top, by the
 // direction of the load, and a shaft over the height of the band there.
 void band_arrow(PlotSurface& s, float x, float base, float top, bool down)
@@ -67,7 +62,7 @@ void uniform_band(PlotSurface& s, const Model& m, const LoadGroup& g, const Span
                 band_arrow(s, px.x(x0 + static_cast<float>(quarter) * w / 4), px.y(base), top, q >= 0);
             }
         }
-        PrintAt(s, x0 + 1.65F * (w / 4), base, number(m, std::abs(q), "#0.00  "), kBlue);
+        PrintAt(s, x0 + 1.65F * (w / 4), base, format_number(m, std::abs(q), "#0.00  "), kBlue);
     }
 }
 
@@ -100,8 +95,8 @@ void trapezoid_band(PlotSurface& s, const Model& m, const LoadGroup& g, const Sp
         s.SetFontName("Arial");
         s.SetFontSize(7);
         const float text_y = px.down(base + text_drop);
-        PrintAt(s, px.x(left - 0.5F), text_y, number(m, q1, " #0.00 "), kBlue);
-        PrintAt(s, px.x(right), text_y, number(m, q2, " #0.00 "), kBlue);
+        PrintAt(s, px.x(left - 0.5F), text_y, format_number(m, q1, " #0.00 "), kBlue);
+        PrintAt(s, px.x(right), text_y, format_number(m, q2, " #0.00 "), kBlue);
     }
 }
 
@@ -126,7 +121,7 @@ void point_band(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanCo
             }
         }
         s.Line(x, base, x, base + height, kBlack);
-        PrintAt(s, x - 2, base + height + 7, number(m, std::abs(P), " #0.0"), kBlue);
+        PrintAt(s, x - 2, base + height + 7, format_number(m, std::abs(P), " #0.0"), kBlue);
     }
 }
 
@@ -151,7 +146,7 @@ void moment_band(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             s.Circle(xp, yp - 3, 15, kBlack, 0.0F, 3.14F);
         }
         const float pixel = 100.0F / static_cast<float>(s.PixelWidth());
-        PrintAt(s, x - 2 + 2 * pixel, base + 10, number(m, std::abs(M), " #0.00 "), kBlue);
+        PrintAt(s, x - 2 + 2 * pixel, base + 10, format_number(m, std::abs(M), " #0.00 "), kBlue);
     }
 }
 
@@ -193,10 +188,10 @@ void PlotLoadFactors(PlotSurface& surface, const Model& m, LoadGroupId group, fl
     PrintAt(surface, x, y + 90, caption(m, group));
     surface.SetFontSize(7);
     PrintAt(surface, x + 38, y + 88, "SLS:", kBlue);
-    PrintAt(surface, x + 43, y + 88, number(m, sls, "##0.00"));
+    PrintAt(surface, x + 43, y + 88, format_number(m, sls, "##0.00"));
     PrintAt(surface, x + 48, y + 88, "ULS:", kBlue);
     PrintAt(surface, x + 53, y + 88, a ? "Eq. 6.10a:" : "Eq. 6.10b:", kBlue);
-    PrintAt(surface, x + 63, y + 88, number(m, uls, "##0.00"));
+    PrintAt(surface, x + 63, y + 88, format_number(m, uls, "##0.00"));
 }
 
 void PlotLoadGroup(PlotSurface& surface, const Model& m, LoadGroupId group, LoadPlotState& state,

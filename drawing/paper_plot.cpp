@@ -14,11 +14,6 @@ constexpr float kBandMm = 3.0F;  // the largest uniform or trapezoidal load
 constexpr float kArrowMm = 4.0F; // a point load
 constexpr float kHeadMm = 1.0F;
 
-std::string number(const Model& m, double v, std::string_view pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 void ink(PlotSurface& s, std::string_view font, float size, bool bold)
 {
     s.SetFontName(font);
@@ -59,10 +54,10 @@ void print_factors(PlotSurface& s, const Model& m, LoadGroupId group, float x, f
     const float sls = f.creep, uls = a ? f.gamma_a : f.gamma_b;
     ink(s, "Times New Roman", 8, false);
     PrintAt(s, x + 65, y, "SLS:");
-    PrintAt(s, x + 72, y, number(m, sls, "##0.00"));
+    PrintAt(s, x + 72, y, format_number(m, sls, "##0.00"));
     PrintAt(s, x + 80, y, "ULS:");
     PrintAt(s, x + 88, y, a ? "Eq. 6.10a:" : "Eq. 6.10b:");
-    PrintAt(s, x + 102, y, number(m, uls, "##0.00"));
+    PrintAt(s, x + 102, y, format_number(m, uls, "##0.00"));
 }
 
 void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanColumns& c, float& y)
@@ -78,7 +73,7 @@ void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             const float x = c.at(g.mom_span(k), g.mom_a(k));
             s.Circle(x, y + 1, 2, kBlack, 0.0F, 3.14F);
             PaperArrowHead(s, g.mom_M(k) >= 0 ? x + 2 : x - 2, y + 1 - kHeadMm, kHeadMm, true);
-            PrintAt(s, x + 2.5F, y + 4.5F, number(m, std::abs(g.mom_M(k)), "0.00"));
+            PrintAt(s, x + 2.5F, y + 4.5F, format_number(m, std::abs(g.mom_M(k)), "0.00"));
         }
     }
     if (g.pt_n > 0) {
@@ -89,7 +84,7 @@ void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             }
             const float x = c.at(g.pt_span(k), g.pt_a(k));
             arrow(s, x, y, y + kArrowMm, g.pt_P(k) >= 0);
-            PrintAt(s, x + 0.8F, y + kArrowMm, number(m, std::abs(g.pt_P(k)), "0.00"));
+            PrintAt(s, x + 0.8F, y + kArrowMm, format_number(m, std::abs(g.pt_P(k)), "0.00"));
         }
     }
     if (g.trap_n > 0) {
@@ -111,8 +106,8 @@ void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
                 const float q = g.trap_q1(k) + t * (g.trap_q2(k) - g.trap_q1(k));
                 arrow(s, left + t * (right - left), y, y + h1 + t * (h2 - h1), q >= 0);
             }
-            PrintAt(s, left, y + kBandMm + 3, number(m, g.trap_q1(k), "##0.00"));
-            PrintAt(s, right - 4, y + kBandMm + 3, number(m, g.trap_q2(k), "##0.00"));
+            PrintAt(s, left, y + kBandMm + 3, format_number(m, g.trap_q1(k), "##0.00"));
+            PrintAt(s, right - 4, y + kBandMm + 3, format_number(m, g.trap_q2(k), "##0.00"));
         }
     }
     if (g.uni_n > 0) {
@@ -130,7 +125,7 @@ void paper_bands(PlotSurface& s, const Model& m, const LoadGroup& g, const SpanC
             for (int quarter = 0; quarter <= 4; ++quarter) {
                 arrow(s, x0 + static_cast<float>(quarter) * w / 4, y, y + h, g.uni_q(k) >= 0);
             }
-            PrintAt(s, x0 + 0.4F * w, y + kBandMm + 3, number(m, std::abs(g.uni_q(k)), "##0.00"));
+            PrintAt(s, x0 + 0.4F * w, y + kBandMm + 3, format_number(m, std::abs(g.uni_q(k)), "##0.00"));
         }
     }
 }
@@ -230,7 +225,7 @@ void PrintBeam(PlotSurface& s, const Model& m, float y)
     for (int i = 1; i <= m.nf; ++i) {
         s.Line(c.start(i), y, c.start(i + 1), y + 1, kBlack, true);
         ink(s, "Arial", 7, false);
-        PrintAt(s, (c.start(i) + c.start(i + 1)) / 2 - 3, y - 2.5F, number(m, m.ffl_s(i), "##0.000"));
+        PrintAt(s, (c.start(i) + c.start(i + 1)) / 2 - 3, y - 2.5F, format_number(m, m.ffl_s(i), "##0.000"));
     }
     for (int node = 1; node <= m.nnodes; ++node) {
         const float x = c.start(node);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/model.h"
+
 #include <string>
 #include <string_view>
 
@@ -12,5 +14,11 @@ namespace kvelder {
 // writes a comma for the point. A value that is no finite number reads "Inf",
 // "-Inf" or "NaN".
 std::string format_number(double value, std::string_view pattern, bool decimal_comma = false);
+
+// A number of the beam's as the machine the beam is shown on writes it.
+inline std::string format_number(const Model& m, double value, std::string_view pattern = "0.00")
+{
+    return format_number(value, pattern, m.decimal_comma != 0);
+}
 
 } // namespace kvelder

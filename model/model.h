@@ -10,6 +10,13 @@
 
 namespace kvelder {
 
+// "6.10a" or "6.10b": the expression of EN 1990 that a comb_rule puts in
+// force. "610a" takes the a-factors, anything else the b-factors.
+inline const char* expression_name(const std::string& comb_rule)
+{
+    return comb_rule == "610a" ? "6.10a" : "6.10b";
+}
+
 constexpr int kMaxSpans = 5;
 constexpr int kMaxNodes = kMaxSpans + 1;
 constexpr int kMaxPoints = 211;            // calculation points one span can hold

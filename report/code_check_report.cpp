@@ -18,11 +18,6 @@ constexpr float kOutcomeLeft = 66;
 // buckling rule is printed, so that the spans of a page stand at one pitch.
 constexpr float kBlockLines = 10.5F;
 
-std::string number(const Model& m, float v, const char* pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 CheckLine plain(std::string text, bool bold = false)
 {
     return {std::move(text), {}, {}, bold, false};
@@ -35,13 +30,14 @@ CheckLine rule(std::string title, std::string ratio, std::string outcome)
 
 std::string ratio(const Model& m, float stress, float strength)
 {
-    return number(m, stress, "0.0") + " / " + number(m, strength, "0.0");
+    return format_number(m, stress, "0.0") + " / " + format_number(m, strength, "0.0");
 }
 
 CheckLine bending_rule(const Model& m, const char* title, float stress, float uf, float x)
 {
     return rule(title, ratio(m, stress, m.fmd),
-                number(m, uf, "0.00") + "        <  1.0       " + "  at   xl   =   " + number(m, x, "0.00"));
+                format_number(m, uf, "0.00") + "        <  1.0       " +
+                    "  at   xl   =   " + format_number(m, x, "0.00"));
 }
 
 // The text of the beam's language, to be joined with numbers.
@@ -63,26 +59,28 @@ std::vector<CheckLine> BuildBucklingText(const Model& m, int span)
         return {plain(title + said(m, " No lateral buckling, compression side supported. ",
                                    " Ingen vipping, trykkside kontinuerlig avstivet. "))};
     }
-    return {plain(title), rule("UF  = Sigma / fm,y,d x k_crit",
-                               ratio(m, m.sigma_ltb(span), m.fmd) + " x " + number(m, m.k_crit(span), "0.00"),
-                               number(m, m.Uf_ltb(span), "0.00"))};
+    return {plain(title),
+            rule("UF  = Sigma / fm,y,d x k_crit",
+                 ratio(m, m.sigma_ltb(span), m.fmd) + " x " + format_number(m, m.k_crit(span), "0.00"),
+                 format_number(m, m.Uf_ltb(span), "0.00"))};
 }
 
 std::vector<CheckLine> BuildCheckTexts(const Model& m, int span)
 {
     std::vector<CheckLine> lines{
-        plain(said(m, "Span no.    ", "Felt nr.    ") + number(m, static_cast<float>(span), "0"), true),
+        plain(said(m, "Span no.    ", "Felt nr.    ") + format_number(m, static_cast<float>(span), "0"),
+              true),
         plain(said(m, "Section Control: ", "Tverrsnitts kontroll: ")),
-        plain(said(m, "Max. posetive moment: ", "Maks. posetivt moment: ") + number(m, m.M_pos(span), "0.0") +
-              " kNm"),
+        plain(said(m, "Max. posetive moment: ", "Maks. posetivt moment: ") +
+              format_number(m, m.M_pos(span), "0.0") + " kNm"),
         bending_rule(m, "UF  =  sigma_pos / fm,y,d", m.sigma_pos(span), m.Uf_pos(span), m.x_pos(span)),
-        plain(said(m, "Max. negative moment: ", "Maks. negativt moment: ") + number(m, m.M_neg(span), "0.0") +
-              " kNm"),
+        plain(said(m, "Max. negative moment: ", "Maks. negativt moment: ") +
+              format_number(m, m.M_neg(span), "0.0") + " kNm"),
         bending_rule(m, "UF  = sigma_neg / fm,y,d", m.sigma_neg(span), m.Uf_neg(span), m.x_neg(span)),
-        plain(said(m, "Shear: ", "Skjær: ") + number(m, m.V_gov(span), "0.0") + " kN"),
+        plain(said(m, "Shear: ", "Skjær: ") + format_number(m, m.V_gov(span), "0.0") + " kN"),
         rule("UF  =  Tau / fv,d", ratio(m, m.tau_gov(span), m.fvd),
-             number(m, m.Uf_tau(span), "0.00") + "        <  1.0      " +
-                 "   at   xl   =   " + number(m, m.xt_gov(span), "0.00")),
+             format_number(m, m.Uf_tau(span), "0.00") + "        <  1.0      " +
+                 "   at   xl   =   " + format_number(m, m.xt_gov(span), "0.00")),
     };
     for (auto& line : BuildBucklingText(m, span)) {
         lines.push_back(std::move(line));

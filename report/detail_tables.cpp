@@ -21,11 +21,6 @@ constexpr float kSpan = 10, kPosition = 24;
 constexpr float kShearMax = 35, kShearMin = 51, kMomentMax = 67, kMomentMin = 83, kDeflectionMax = 100,
                 kDeflectionMin = 122;
 
-std::string number(const Model& m, double v, std::string_view pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 TableCell text(float x, std::string_view s)
 {
     return {x, std::string(s), Align::Left, false};
@@ -61,13 +56,14 @@ std::vector<TableLine> force_lines(const Model& m)
     lines.back().cells.push_back(right(kDeflectionMin, "Min."));
     for (const DetailPoint& p : detail_points(m)) {
         const int i = p.span, j = p.fine;
-        lines.push_back({{right(kSpan, number(m, i, "##")), right(kPosition, number(m, p.x, "##0.00")),
-                          right(kShearMax, number(m, m.V_max(i, j), "##0.00 ")),
-                          right(kShearMin, number(m, m.V_min(i, j), "##0.00 ")),
-                          right(kMomentMax, number(m, m.M_max(i, j), "##0.00 ")),
-                          right(kMomentMin, number(m, m.M_min(i, j), "##0.00 ")),
-                          right(kDeflectionMax, number(m, m.W_max(i, j), "##0.0 ")),
-                          right(kDeflectionMin, number(m, m.W_min(i, j), "##0.0 "))}});
+        lines.push_back(
+            {{right(kSpan, format_number(m, i, "##")), right(kPosition, format_number(m, p.x, "##0.00")),
+              right(kShearMax, format_number(m, m.V_max(i, j), "##0.00 ")),
+              right(kShearMin, format_number(m, m.V_min(i, j), "##0.00 ")),
+              right(kMomentMax, format_number(m, m.M_max(i, j), "##0.00 ")),
+              right(kMomentMin, format_number(m, m.M_min(i, j), "##0.00 ")),
+              right(kDeflectionMax, format_number(m, m.W_max(i, j), "##0.0 ")),
+              right(kDeflectionMin, format_number(m, m.W_min(i, j), "##0.0 "))}});
     }
     return lines;
 }
@@ -82,16 +78,16 @@ std::vector<TableLine> reaction_lines(const Model& m)
     };
     for (int node = 1; node <= m.nnodes; ++node) {
         TableLine& line = lines.emplace_back();
-        line.cells.push_back(right(kSpan, number(m, node, "0 ")));
+        line.cells.push_back(right(kSpan, format_number(m, node, "0 ")));
         if (bearing_kind(m, node) == kFree) {
             line.cells.push_back(right(kShearMax, std::string(pick(m, "Free", "Fri"))));
             continue;
         }
         const int k = reaction_index(m, node);
-        line.cells.insert(line.cells.end(), {right(kShearMax, number(m, m.R_max(k), "##0.00 ")),
-                                             right(kShearMin, number(m, m.R_min(k), "##0.00 ")),
-                                             right(kMomentMax, number(m, m.MR_max(k), "##0.00 ")),
-                                             right(kMomentMin, number(m, m.MR_min(k), "##0.00 "))});
+        line.cells.insert(line.cells.end(), {right(kShearMax, format_number(m, m.R_max(k), "##0.00 ")),
+                                             right(kShearMin, format_number(m, m.R_min(k), "##0.00 ")),
+                                             right(kMomentMax, format_number(m, m.MR_max(k), "##0.00 ")),
+                                             right(kMomentMin, format_number(m, m.MR_min(k), "##0.00 "))});
     }
     return lines;
 }
@@ -114,7 +110,7 @@ std::vector<TableLine> governing_lines(const Model& m, const GoverningStates& g)
     for (int i = 1; i <= m.nf; ++i) {
         const SpanGoverning& s = g.spans.at(static_cast<std::size_t>(i - 1));
         TableLine& line = lines.emplace_back();
-        line.cells = {right(kSpan, number(m, i, "##")), text(kMoment, load_state_name(m, s.bending)),
+        line.cells = {right(kSpan, format_number(m, i, "##")), text(kMoment, load_state_name(m, s.bending)),
                       text(kShear, load_state_name(m, s.shear))};
         if (buckling) {
             line.cells.push_back(text(kBuckling, load_state_name(m, s.buckling)));
@@ -127,7 +123,7 @@ std::vector<TableLine> governing_lines(const Model& m, const GoverningStates& g)
         if (bearing_kind(m, node) != kFree) {
             const SupportGoverning& s = g.supports.at(static_cast<std::size_t>(reaction_index(m, node) - 1));
             lines.push_back(
-                {{right(kSpan, number(m, node, "0 ")), text(kMoment, load_state_name(m, s.R_max))}});
+                {{right(kSpan, format_number(m, node, "0 ")), text(kMoment, load_state_name(m, s.R_max))}});
         }
     }
     return lines;

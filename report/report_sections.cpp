@@ -19,11 +19,6 @@ namespace {
 
 using Align = TableCell::Align;
 
-std::string number(const Model& m, double v, std::string_view pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 TableCell text(float x, std::string_view s, bool bold = false)
 {
     return {x, std::string(s), Align::Left, bold};
@@ -134,7 +129,7 @@ std::vector<TableLine> material_lines(const Model& m)
     const auto value = [&m](float x, std::string_view label, float v, std::string_view unit = {}) {
         constexpr float kWidth = 22; // label and number
         std::vector<TableCell> cells{text(x, label),
-                                     right(x + kWidth, number(m, v, unit.empty() ? "0.00" : "0.0"))};
+                                     right(x + kWidth, format_number(m, v, unit.empty() ? "0.00" : "0.0"))};
         if (!unit.empty()) {
             cells.push_back(text(x + kWidth + 1, unit));
         }
@@ -173,7 +168,7 @@ constexpr float kStrengths = 112;
 std::vector<TableLine> section_lines(const Model& m)
 {
     const auto row = [&m](float x, std::string_view label, float v, float width, std::string_view pattern) {
-        return std::vector<TableCell>{text(x, label), right(x + width, number(m, v, pattern))};
+        return std::vector<TableCell>{text(x, label), right(x + width, format_number(m, v, pattern))};
     };
     std::vector<std::vector<TableCell>> dimensions{
         {text(kDimensions, pick(m, "Dimensions", "Dimensjoner (mm)"), true)},
@@ -223,14 +218,14 @@ void PrintSectionSketch(PlotSurface& surface, const Model& m, float x, float y)
                                                  to_pixel(py * surface.PixelHeight())};
         }
         surface.Polygon(ring);
-        PrintAt(surface, cx - r, cy - r - 1, "d = " + number(m, m.section_d, "0"));
+        PrintAt(surface, cx - r, cy - r - 1, "d = " + format_number(m, m.section_d, "0"));
     } else {
         const float b = std::max(m.section_b, 0.0F), h = std::max(m.section_h, 0.0F);
         const float scale = kShape / std::max({b, h, 1.0F});
         const float w = std::max(b * scale, 0.5F), d = std::max(h * scale, 0.5F);
         surface.Line(cx - w / 2, cy + d / 2, cx + w / 2, cy - d / 2, kBlack, true);
-        PrintAt(surface, cx - w / 2, cy - d / 2 - 1, "b = " + number(m, b, "0"));
-        PrintAt(surface, cx + w / 2 + 1, cy + 1.5F, "h = " + number(m, h, "0"));
+        PrintAt(surface, cx - w / 2, cy - d / 2 - 1, "b = " + format_number(m, b, "0"));
+        PrintAt(surface, cx + w / 2 + 1, cy + 1.5F, "h = " + format_number(m, h, "0"));
     }
     surface.SetFillStyle(FillStyle::Transparent);
 }
@@ -251,7 +246,7 @@ std::vector<TableLine> factor_lines(const Model& m)
         safety_class = std::to_string(m.safety_class);
     }
     const auto psi = [&m](float x, std::string_view label, float v) {
-        return std::vector<TableCell>{text(x, label), right(x + 28, number(m, v, "0.0"))};
+        return std::vector<TableCell>{text(x, label), right(x + 28, format_number(m, v, "0.0"))};
     };
     return side_by_side({
         {{text(0, safety ? "  Safety class  =   "
@@ -329,9 +324,9 @@ void add_group(std::vector<TableLine>& lines, const Model& m, const LoadGroup& g
                     lines.resize(at + 1, TableLine{{}, kLoadPitch});
                 }
                 const LoadRow r = row(g, t.table, k);
-                lines[at].cells.push_back(right(column(0), number(m, r.span, "0")));
+                lines[at].cells.push_back(right(column(0), format_number(m, r.span, "0")));
                 for (std::size_t c = 0; c < t.heads.size(); ++c) {
-                    lines[at].cells.push_back(right(column(c + 1), number(m, r.values[c], "0.00")));
+                    lines[at].cells.push_back(right(column(c + 1), format_number(m, r.values[c], "0.00")));
                 }
             }
         }
@@ -403,9 +398,9 @@ std::vector<TableLine> buckling_lines(const Model& m)
         const std::array<float, 5> values{m.l_stag(i), m.lef_factor(i), m.l_eff(i), m.lambda_rel_m(i),
                                           m.k_crit(i)};
         TableLine& line = lines.emplace_back();
-        line.cells.push_back(right(edge[0], number(m, i, "0")));
+        line.cells.push_back(right(edge[0], format_number(m, i, "0")));
         for (std::size_t c = 0; c < values.size(); ++c) {
-            line.cells.push_back(right(edge[c + 1], number(m, values[c], "0.00")));
+            line.cells.push_back(right(edge[c + 1], format_number(m, values[c], "0.00")));
         }
     }
     return lines;
@@ -437,20 +432,21 @@ std::vector<TableLine> support_lines(const Model& m)
     }
     for (int i = 1; i <= m.nnodes; ++i) {
         TableLine& line = lines.emplace_back();
-        line.cells.push_back(right(kNode, number(m, i, "0")));
+        line.cells.push_back(right(kNode, format_number(m, i, "0")));
         const char kind = bearing_kind(m, i);
         if (kind == kFree) {
             line.cells.push_back(right(kForce, std::string(pick(m, "Free", "Fri"))));
             continue;
         }
-        line.cells.push_back(right(kForce, number(m, m.R_max(reaction_index(m, i)), "##0.00 ")));
+        line.cells.push_back(right(kForce, format_number(m, m.R_max(reaction_index(m, i)), "##0.00 ")));
         if (kind == kBuiltIn) {
             line.cells.push_back(right(kSigma, std::string(pick(m, "Fixed", "Innspent"))));
         } else if (rectangle) {
-            line.cells.insert(line.cells.end(), {right(kSigma, number(m, m.sigma_c90(i), "0.00")),
-                                                 right(kLength, number(m, m.bearing_length(i), "##0.0 ")),
-                                                 right(kKc90, number(m, m.bearing_kc90(i), "0.00")),
-                                                 right(kUf, " = " + number(m, m.Uf_c90(i), " 0.00"))});
+            line.cells.insert(line.cells.end(),
+                              {right(kSigma, format_number(m, m.sigma_c90(i), "0.00")),
+                               right(kLength, format_number(m, m.bearing_length(i), "##0.0 ")),
+                               right(kKc90, format_number(m, m.bearing_kc90(i), "0.00")),
+                               right(kUf, " = " + format_number(m, m.Uf_c90(i), " 0.00"))});
         }
     }
     return lines;

@@ -24,10 +24,13 @@ AnnexTable annex_table(const std::vector<const Model*>& beams, const std::vector
         }
         t.rows.push_back(std::move(r));
     };
-    const auto number = [](double v, const char* pattern = "0.00") { return format_number(v, pattern); };
+    const Model& first = *beams.front();
+    const auto number = [&first](double v, const char* pattern = "0.00") {
+        return format_number(first, v, pattern);
+    };
     // The load factors of the expression in force, which differ by annex.
-    const bool a = beams.front()->comb_rule == "610a";
-    const std::string expression = a ? " (6.10a)" : " (6.10b)";
+    const bool a = first.comb_rule == "610a";
+    const std::string expression = std::string(" (") + expression_name(first.comb_rule) + ")";
     row("gamma_G" + expression, [&](const Model& m) { return number(a ? m.gamma_G_a : m.gamma_G_b); });
     row("gamma_Q1" + expression, [&](const Model& m) { return number(a ? m.gamma_Q1_a : m.gamma_Q1_b); });
     row("gamma_Q2" + expression, [&](const Model& m) { return number(a ? m.gamma_Q2_a : m.gamma_Q2_b); });
@@ -37,7 +40,6 @@ AnnexTable annex_table(const std::vector<const Model*>& beams, const std::vector
     row("fm,d (MPa)", [&](const Model& m) { return number(m.fmd, "0.0"); });
     row("fv,d (MPa)", [&](const Model& m) { return number(m.fvd, "0.0"); });
     row("fc,90,d (MPa)", [&](const Model& m) { return number(m.fc90d, "0.0"); });
-    const Model& first = *beams.front();
     for (int i = 1; i <= first.nf; ++i) {
         const std::string span = (eng ? "Span " : "Felt ") + std::to_string(i) + ": ";
         row(span + (eng ? "Uf bending" : "Uf b\u00f8yning"),

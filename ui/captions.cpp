@@ -1,5 +1,7 @@
 #include "ui/captions.h"
 
+#include "model/model.h"
+
 namespace kvelder {
 namespace {
 
@@ -168,7 +170,7 @@ std::string state_text(const Pair& p, bool english, const std::string& comb_rule
 {
     switch (p.from) {
     case From::CombRule:
-        return std::string(english ? p.eng : p.nor) + (comb_rule == "610b" ? "(6.10b)" : "(6.10a)");
+        return std::string(english ? p.eng : p.nor) + "(" + expression_name(comb_rule) + ")";
     case From::Duration:
         if (duration_class < 1 || duration_class > 5) {
             return {};

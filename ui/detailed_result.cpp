@@ -11,11 +11,6 @@
 namespace kvelder {
 namespace {
 
-std::string number(const Model& m, double v, std::string_view pattern = "0.00")
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 const char* pick(const Model& m, const char* eng, const char* nor)
 {
     return m.language == "Eng" ? eng : nor;
@@ -30,10 +25,10 @@ void add_check(std::vector<TextLine>& lines, const Model& m, std::string heading
                const char* unit, const char* formula, double stress, double strength, float usage,
                const char* limit, double x)
 {
-    lines.push_back({{std::move(heading) + number(m, value) + unit}});
-    lines.push_back({{formula + number(m, stress) + " / " + number(m, strength) + kGap},
-                     {number(m, usage), usage_color(usage)},
-                     {std::string(limit) + "  at   xl   =   " + number(m, x)}});
+    lines.push_back({{std::move(heading) + format_number(m, value) + unit}});
+    lines.push_back({{formula + format_number(m, stress) + " / " + format_number(m, strength) + kGap},
+                     {format_number(m, usage), usage_color(usage)},
+                     {std::string(limit) + "  at   xl   =   " + format_number(m, x)}});
     lines.push_back({});
 }
 
@@ -53,7 +48,7 @@ std::vector<TextLine> Print_section_lines(const Model& m, int span)
 {
     const int i = span;
     std::vector<TextLine> lines{
-        {{pick(m, "Span no.   ", "Felt nr.   ") + number(m, i, "0")}},
+        {{pick(m, "Span no.   ", "Felt nr.   ") + format_number(m, i, "0")}},
         {{pick(m, "Section Control: ", "Tverrsnitts kontroll :  ")}},
         {},
     };
@@ -81,12 +76,12 @@ std::vector<TextLine> Print_buckling_lines(const Model& m, int span)
     const char* leff = m.load_location == 0 ? "leff  = Feltlengde (avstand mellom stag) + 2 x h = "
                                             : "leff = Feltlengde (avstand mellom stag)- 0.5 x h  = ";
     return {
-        {{leff + number(m, m.l_eff(i), "0.0") + "  m"}},
-        {{"lamda   =  " + number(m, m.lambda_rel_m(i))}},
-        {{"k_crit   =  " + number(m, m.k_crit(i))}},
-        {{"UF  = Sigma / fm,y,d x k_crit  =      " + number(m, m.sigma_ltb(i)) + " / " + number(m, m.fmd) +
-          " x " + number(m, m.k_crit(i)) + "= "},
-         {number(m, m.Uf_ltb(i)), usage_color(m.Uf_ltb(i))}},
+        {{leff + format_number(m, m.l_eff(i), "0.0") + "  m"}},
+        {{"lamda   =  " + format_number(m, m.lambda_rel_m(i))}},
+        {{"k_crit   =  " + format_number(m, m.k_crit(i))}},
+        {{"UF  = Sigma / fm,y,d x k_crit  =      " + format_number(m, m.sigma_ltb(i)) + " / " +
+          format_number(m, m.fmd) + " x " + format_number(m, m.k_crit(i)) + "= "},
+         {format_number(m, m.Uf_ltb(i)), usage_color(m.Uf_ltb(i))}},
     };
 }
 
@@ -105,7 +100,7 @@ DetailSection detail_section(const Model& m)
     DetailSection s;
     s.b = box_text(m, Box::Width);
     s.h = box_text(m, Box::Height);
-    s.d = number(m, m.section_d, "0");
+    s.d = format_number(m, m.section_d, "0");
     if (m.section_form == "Tube") {
         s.kind = TrialSection::Circle;
     } else if (is_timber(m) && is_true(m.standard_section)) {
@@ -126,7 +121,7 @@ TrialCommit commit_trial_size(Model& m, Box box, std::string_view text)
         const bool eng = m.language == "Eng";
         c.failure->text = box == Box::Width ? (eng ? " b =< 0 " : "b =< 0 ") : (eng ? " h =< 0 " : "h =< 0 ");
     }
-    std::string shown = !c.failure && box == Box::Diameter ? number(m, m.section_d, "0") : c.text;
+    std::string shown = !c.failure && box == Box::Diameter ? format_number(m, m.section_d, "0") : c.text;
     return {std::move(shown), std::move(c.text), std::move(c.failure)};
 }
 

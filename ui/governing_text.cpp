@@ -22,7 +22,7 @@ std::string load_state_name(const Model& m, const std::optional<GoverningValue>&
 
 std::string expression_text(const Model& m)
 {
-    return m.comb_rule == "610a" ? "(6.10a)" : "(6.10b)";
+    return std::string("(") + expression_name(m.comb_rule) + ")";
 }
 
 std::string governing_line(const Model& m, const GoverningStates& g, int span)

@@ -9,11 +9,6 @@
 namespace kvelder {
 namespace {
 
-std::string number(const Model& m, double v, std::string_view pattern)
-{
-    return format_number(v, pattern, m.decimal_comma != 0);
-}
-
 std::vector<GridHead> heads(bool eng)
 {
     std::vector<GridHead> h{
@@ -50,23 +45,23 @@ ResultGrid result_grid(const Model& m)
         const bool last = k + 1 == points.size() || points[k + 1].span != i;
         GridRow& row = grid.rows.emplace_back();
         row.node = first || last;
-        row.cells[0] = first ? number(m, i, "##") : std::string();
-        row.cells[1] = number(m, p.x, "##0.000");
-        row.cells[2] = number(m, m.V_max(i, j), "##0.0");
-        row.cells[3] = number(m, m.V_min(i, j), "##0.0");
-        row.cells[4] = number(m, m.M_max(i, j), "##0.0");
-        row.cells[5] = number(m, m.M_min(i, j), "##0.0");
-        row.cells[10] = number(m, m.W_max(i, j), "#0.0");
-        row.cells[11] = number(m, m.W_min(i, j), "#0.0");
+        row.cells[0] = first ? format_number(m, i, "##") : std::string();
+        row.cells[1] = format_number(m, p.x, "##0.000");
+        row.cells[2] = format_number(m, m.V_max(i, j), "##0.0");
+        row.cells[3] = format_number(m, m.V_min(i, j), "##0.0");
+        row.cells[4] = format_number(m, m.M_max(i, j), "##0.0");
+        row.cells[5] = format_number(m, m.M_min(i, j), "##0.0");
+        row.cells[10] = format_number(m, m.W_max(i, j), "#0.0");
+        row.cells[11] = format_number(m, m.W_min(i, j), "#0.0");
         // A node inside the beam ends one span and starts the next: its
         // reaction stands once, at the end of the span before it.
         const int node = first && i == 1 ? 1 : last ? i + 1 : 0;
         if (node != 0 && bearing_kind(m, node) != kFree) {
             const int r = reaction_index(m, node);
-            row.cells[6] = number(m, m.R_max(r), "##0.0");
-            row.cells[7] = number(m, m.R_min(r), "##0.0");
-            row.cells[8] = number(m, m.MR_max(r), "##0.0");
-            row.cells[9] = number(m, m.MR_min(r), "##0.0");
+            row.cells[6] = format_number(m, m.R_max(r), "##0.0");
+            row.cells[7] = format_number(m, m.R_min(r), "##0.0");
+            row.cells[8] = format_number(m, m.MR_max(r), "##0.0");
+            row.cells[9] = format_number(m, m.MR_min(r), "##0.0");
         }
     }
     return grid;

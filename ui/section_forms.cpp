@@ -71,27 +71,26 @@ std::array<PropertyRow, kMaxSpans> property_rows(const Model& m)
 {
     std::array<PropertyRow, kMaxSpans> rows;
     for (int i = 1; i <= m.nf && i <= kMaxSpans; ++i) {
-        rows[static_cast<std::size_t>(i - 1)] = {format_number(i, "0"), format_number(m.I_mm4, "0.000E+00"),
-                                                 format_number(m.Wyy, "0.000E+00"),
-                                                 format_number(m.Axx, "0.000E+00")};
+        rows[static_cast<std::size_t>(i - 1)] = {
+            format_number(i, "0"), format_number(m, m.I_mm4, "0.000E+00"),
+            format_number(m, m.Wyy, "0.000E+00"), format_number(m, m.Axx, "0.000E+00")};
     }
     return rows;
 }
 
 std::array<BucklingRow, kMaxSpans> buckling_rows(const Model& m)
 {
-    const bool comma = m.decimal_comma != 0;
     const bool checked = m.vipping_off == 0;
     std::array<BucklingRow, kMaxSpans> rows;
     for (int i = 1; i <= m.nf && i <= kMaxSpans; ++i) {
         BucklingRow& row = rows[static_cast<std::size_t>(i - 1)];
         row.shown = true;
         row.span = format_number(i, " 0");
-        row.l_stag = format_number(m.l_stag(i), "0.00", comma);
-        row.lef_factor = format_number(m.lef_factor(i), "0.00", comma);
+        row.l_stag = format_number(m, m.l_stag(i));
+        row.lef_factor = format_number(m, m.lef_factor(i));
         if (checked) {
-            row.l_eff = format_number(m.l_eff(i), "0.00");
-            row.k_crit = format_number(m.k_crit(i), "0.00");
+            row.l_eff = format_number(m, m.l_eff(i));
+            row.k_crit = format_number(m, m.k_crit(i));
         }
         row.l_stag_failed = check_box(m, Box::LStag, m.l_stag(i), i).has_value();
         row.lef_factor_failed = check_box(m, Box::LefFactor, m.lef_factor(i)).has_value();

@@ -69,7 +69,7 @@ constexpr CaptionPair kCaptions[] = {
     {"Lbl_kfi_sfd_1", "Sk =", "Sk ="},
     {"Opt_class_nor_1", "1", "1"},
     {"Opt_class_nor_2_4", "2 - 4", "2 - 4"},
-    {"Lbl_kfi_1", "Kfi =", "Kfi ="},
+    {"Lbl_kfi_1", "Kfi = ", "Kfi = "},
     {"chk_kcr", "Timber and Laminated exposed for sunshine and rain ",
      "Timber and Laminated exposed for sunshine and rain "},
     {"Cmd_ok", "OK", "OK"},

@@ -152,10 +152,9 @@ ordered_json governing_value(const Model& m, const std::optional<GoverningValue>
     std::string loads = "G";
     loads += s.Q1_spans.empty() ? "" : "+Q1";
     loads += s.Q2 ? "+Q2" : "";
-    return {
-        {"pattern", s.pattern},   {"loads", loads},
-        {"Q1_spans", s.Q1_spans}, {"combination", uls ? (m.comb_rule == "610a" ? "6.10a" : "6.10b") : "SLS"},
-        {"x", single(v->x)},      {"value", single(v->value)}};
+    return {{"pattern", s.pattern},   {"loads", loads},
+            {"Q1_spans", s.Q1_spans}, {"combination", uls ? expression_name(m.comb_rule) : "SLS"},
+            {"x", single(v->x)},      {"value", single(v->value)}};
 }
 
 } // namespace
