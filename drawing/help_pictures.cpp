@@ -12,9 +12,9 @@
 namespace kvelder {
 namespace {
 
-constexpr PlotColor kPermanentBlue = kBlue; // &HFF0000
-constexpr PlotColor kQ1Green = 65280;
-constexpr PlotColor kQ2Grey = 12632256;
+constexpr PlotColor kPermanentBlue = kBlue;
+constexpr PlotColor kQ1Green = RGB(0, 255, 0);
+constexpr PlotColor kQ2Grey = kGrey;
 
 // Where the spans of the pattern pictures stand, right of the captions.
 constexpr float kSpansLeft = 34;

@@ -8,7 +8,6 @@
 #include "ui/edits.h"
 #include "ui/section_forms.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -179,14 +179,7 @@ void LoadDialog::draw_sketches()
     constexpr std::array<void (*)(PlotSurface&), 3> plots{&PlotTrapezoidSketch, &PlotPointSketch,
                                                           &PlotMomentSketch};
     for (std::size_t k = 0; k < m_sketches.size(); ++k) {
-        QImage image(m_sketches[k]->size() * m_sketches[k]->devicePixelRatio(), QImage::Format_RGB32);
-        image.setDevicePixelRatio(m_sketches[k]->devicePixelRatio());
-        image.fill(Qt::white);
-        {
-            PlotSurface surface(image);
-            plots[k](surface);
-        }
-        m_sketches[k]->set_image(std::move(image));
+        m_sketches[k]->draw(plots[k]);
     }
 }
 

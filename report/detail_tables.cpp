@@ -4,6 +4,7 @@
 #include "files/number_format.h"
 #include "report/report_text.h"
 #include "ui/governing_text.h"
+#include "ui/result_points.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,6 @@
 #include "model/governing.h"
 #include "model/model.h"
 #include "report/report_sections.h"
-#include "ui/result_points.h"
 
 #include <cstddef>
 #include <vector>
