@@ -12,6 +12,7 @@
 #include "tests/support/beams.h"
 #include "ui/edits.h"
 #include "ui/load_checks.h"
+#include "ui/result_points.h"
 
 #include <QBuffer>
 #include <QImage>
