@@ -80,6 +80,9 @@ struct FileDatabase {
     std::array<std::string, 6> setup_header_line{};
     std::array<SetupRow, kRows> setup_table{};
 
+    // The last row in use, never past the table; -1 for none.
+    int last_row() const { return setup_last_row < kRows ? setup_last_row : kRows - 1; }
+
     friend bool operator==(const FileDatabase&, const FileDatabase&) = default;
 };
 

@@ -1,12 +1,9 @@
 #include "recalc/annex_comparison.h"
 
 #include "combination/scratch_files.h"
-#include "files/setup_file.h"
 #include "recalc/calc_screen.h"
 #include "recalc/main_calc.h"
-#include "ui/edits.h"
-
-#include <algorithm>
+#include "ui/setup_dialog.h"
 
 namespace kvelder {
 
@@ -14,12 +11,11 @@ std::vector<AnnexRun> calculate_annexes(const Model& m, const LoadDialogs* dialo
 {
     std::vector<AnnexRun> runs;
     ScratchFiles no_trace;
-    const int last = std::min<int>(m.setup.setup_last_row, FileDatabase::kRows - 1);
+    const int last = m.setup.last_row();
     for (int row = 0; row <= last; ++row) {
         AnnexRun run{row, std::make_unique<Model>(m), {}};
         // The factors in force may have been edited since their row was read.
-        StoreSetupRow(*run.beam);
-        choose_annex_row(*run.beam, row);
+        change_country(*run.beam, row);
         RecordingScreen screen;
         if (dialogs != nullptr) {
             LoadDialogs texts = *dialogs;

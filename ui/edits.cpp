@@ -303,7 +303,7 @@ std::optional<Message> set_ksys(Model& m, float ksys)
 
 void choose_annex_row(Model& m, int row)
 {
-    if (row < 0 || row > std::min<int>(m.setup.setup_last_row, FileDatabase::kRows - 1)) {
+    if (row < 0 || row > m.setup.last_row()) {
         return;
     }
     m.setup.setup_row = static_cast<std::int16_t>(row);

@@ -123,7 +123,7 @@ void set_kcr_exposed(Model& m, bool exposed)
 std::vector<std::string> country_items(const FileDatabase& db)
 {
     std::vector<std::string> items;
-    const int last = std::min<int>(db.setup_last_row, FileDatabase::kRows - 1);
+    const int last = db.last_row();
     for (int row = 0; row <= last; ++row) {
         const std::string& title = db.setup_table[static_cast<std::size_t>(row)].annex_title;
         items.push_back(title.empty() ? "EC5 " : "EC5 + " + title);
