@@ -150,7 +150,6 @@ private:
     std::vector<std::pair<double, double>> m_points, m_moments; // (P or M, a)
 };
 
-// Every kind of load row in all three groups on one simply supported span.
 TEST(SimpleSpan, EveryKindOfLoadAgreesWithStaticsAndTheIntegratedCurvature)
 {
     const float L = 6.0F;

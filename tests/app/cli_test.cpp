@@ -244,7 +244,6 @@ TEST(CliProject, ProjectsThatCannotBeUsedExitTwoAndWriteNothing)
     EXPECT_FALSE(fs::exists(refused));
 }
 
-// Project names as engineers give them, handed on as UTF-8 as main reads them.
 TEST(CliProject, NamesBeyondTheCodePageAreSavedCalculatedAndNamedInMessages)
 {
     const fs::path folder = scratch_folder() / "names";
@@ -342,8 +341,6 @@ Usage usage_of(const std::string& beam)
     return u;
 }
 
-// The lightest profile of the family that carries the beam is found from the
-// usage factors calc gives every profile; the beam as described is unchanged.
 TEST(CliSize, TheLightestProfileThatPassesAndTheBestWhereNoneDoes)
 {
     const std::string light = R"("bearing_length": [150, 300, 150], "vipping_off": false,
@@ -391,7 +388,6 @@ TEST(CliSize, TheLightestProfileThatPassesAndTheBestWhereNoneDoes)
     EXPECT_TRUE(circle.exit == 1 && circle.err.find("circle") != std::string::npos) << circle.err;
 }
 
-// Each annex's column is what calc gives with that annex chosen.
 TEST(CliAnnexes, EachColumnIsTheBeamCalculatedUnderItsAnnex)
 {
     const std::string beam = R"({"ffl_s": [4.0, 6.0], "comb_rule": "610b", "Q2": {"uni": [[2, 1.5]]}})";

@@ -23,7 +23,6 @@ TEST_F(MainWindowFlow, BucklingInputChecksEachBoxAndRecalculatesWhatPasses)
     click("Check_vipping");
     click("Cmd_input_vipping");
     ASSERT_NE(front("frm_Kvelder_vipp_input"), nullptr);
-    EXPECT_EQ(front()->windowTitle(), "Parametre for lateral torsional buckling");
     // l_stag 5 x 0.9, and twice the height for a load on the top.
     EXPECT_EQ(get<InputBox>("Txt_l_stag_0")->text(), "5.00");
     EXPECT_EQ(text("Lbl_leff_0"), "5.31");
@@ -79,7 +78,6 @@ TEST_F(MainWindowFlow, SectionPropertiesShowOneRowPerSpanAndTheGrossAreaUnderAzz
     type("txt_h1", "200");
     click("Cmd_tverrsnitt");
     ASSERT_NE(front("frm_Kvelder_Prop"), nullptr);
-    EXPECT_EQ(front()->windowTitle(), "Section properties");
     for (const char* k : {"0", "1"}) {
         const auto cell = [this, k](const char* base) { return text((std::string(base) + "_" + k).c_str()); };
         EXPECT_EQ(cell("Lblfelt_prop"), QString::number(std::atoi(k) + 1));
@@ -137,7 +135,6 @@ TEST_F(MainWindowFlow, FindSectionOffersTheLightestAndChangesTheBeamOnlyWhenOneI
     click("Cmd_finn_tverrsnitt");
     QDialog* finder = front("frm_Kvelder_finn_tverrsnitt");
     ASSERT_NE(finder, nullptr);
-    EXPECT_EQ(finder->windowTitle(), "Find section");
     auto* list = finder->findChild<QListWidget*>("Lst_kandidater");
     ASSERT_GE(list->count(), 1);
     // Searching tried the family without touching the beam or running it.
@@ -248,7 +245,6 @@ TEST_F(ResultFormsFlow, ATrialHeightChangesTheBeamAndTheMainWindowOrIsRefusedKee
     click("cmd_detres");
     QDialog* d = front("frm_Kvelder_detailedresult");
     ASSERT_NE(d, nullptr);
-    EXPECT_EQ(d->windowTitle(), "Detailed results");
     EXPECT_FALSE(d->findChild<QLineEdit*>("Txt_stand_dim")->isVisible());
     EXPECT_TRUE(d->findChild<QWidget*>("Optspandet_1")->isVisible());
     EXPECT_FALSE(d->findChild<QWidget*>("Optspandet_2")->isVisible());
@@ -305,7 +301,6 @@ TEST_F(ResultFormsFlow, TheGridListsTheBeamFromTheLastRunEachTimeItOpens)
     click("Cmd_grid_krefter");
     QDialog* d = front("frm_B_grid_mom_Shear_disp_comb");
     ASSERT_NE(d, nullptr);
-    EXPECT_EQ(d->windowTitle(), "Results along the beam");
     auto* grid = d->findChild<QTableWidget*>("Grid");
     const ResultGrid texts = result_grid(*model);
     ASSERT_EQ(grid->rowCount(), kGridHeadRows + static_cast<int>(texts.rows.size()));

@@ -69,7 +69,6 @@ const Case kCases[] = {
     {"the same support from the right first", M, {{2, {1, 0}}, {1, {3, 5}}}, 194, 194},
 };
 
-// Each case in G, Q1 and Q2: the code it raises follows the order of the group.
 TEST(LoadRowChecks, EachCodeIsRaisedInTheOrderOfItsGroup)
 {
     for (const Case& c : kCases) {
