@@ -33,7 +33,7 @@ QPushButton* help_button(const char* name, QWidget* parent)
 
 ClassDialog::ClassDialog(Workspace& ws, QWidget* parent) : QDialog(parent), m_ws(ws)
 {
-    setObjectName("frmClass");
+    setObjectName(kClassForm);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
 

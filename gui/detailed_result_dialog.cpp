@@ -32,7 +32,7 @@ const char* main_box_name(Box kind)
 DetailedResultDialog::DetailedResultDialog(Workspace& ws, QWidget& main_sizes, QWidget* parent)
     : QDialog(parent), m_ws(ws), m_main_sizes(main_sizes)
 {
-    setObjectName("frm_Kvelder_detailedresult");
+    setObjectName(kDetailedResultForm);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 6, 6, 6);
     auto* column = new QVBoxLayout;

@@ -28,8 +28,10 @@
 #include "report/report_pdf.h"
 #include "ui/annex_table.h"
 #include "ui/captions.h"
+#include "ui/class_dialog.h"
 #include "ui/load_dialog.h"
 #include "ui/messages.h"
+#include "ui/result_grid.h"
 #include "ui/section_finder.h"
 #include "ui/section_forms.h"
 
@@ -190,8 +192,8 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     for (const HelpForm help : kHelpForms) {
         register_form(qs(help_form_name(help)), [this, help] { show_help(help); });
     }
-    m_setup = new SetupDialog(*this, m_folders.data, this);
-    m_classes = new ClassDialog(*this, this);
+    auto* setup = new SetupDialog(*this, m_folders.data, this);
+    auto* classes = new ClassDialog(*this, this);
     auto* detailed = new DetailedResultDialog(*this, *findChild<QWidget*>("frmDimension"), this);
     auto* along = new ResultGridDialog(*this, this);
     auto* finder = new SectionFinderDialog(*this, this);
@@ -200,10 +202,10 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
         {kBucklingForm, [this] { open_buckling_input(*this, front()); }},
         {kLefTableForm, [this] { open_lef_table(m_model.language, front()); }},
         {kAboutForm, [this] { open_about(m_model.language, front()); }},
-        {"frmSetup", [this] { m_setup->open_setup(); }},
-        {"frmClass", [this] { m_classes->open_classes(); }},
-        {"frm_Kvelder_detailedresult", [detailed] { detailed->open_first_span(); }},
-        {"frm_B_grid_mom_Shear_disp_comb", [along] { along->open(); }},
+        {kSetupForm, [setup] { setup->open_setup(); }},
+        {kClassForm, [classes] { classes->open_classes(); }},
+        {kDetailedResultForm, [detailed] { detailed->open_first_span(); }},
+        {kResultGridForm, [along] { along->open(); }},
         {kSectionFinderForm, [finder] { finder->open_search(); }},
         {kAnnexForm, [this] { open_annexes(*this, front()); }},
     };
@@ -218,8 +220,8 @@ MainWindow::MainWindow(Model& m, LoadDialogs& dialogs, Prompter& prompter, Recen
     }
     for (auto [button, name] : {std::pair{"Cmd_tverrsnitt", kPropertiesForm},
                                 {"Cmd_input_vipping", kBucklingForm},
-                                {"cmd_detres", "frm_Kvelder_detailedresult"},
-                                {"Cmd_grid_krefter", "frm_B_grid_mom_Shear_disp_comb"},
+                                {"cmd_detres", kDetailedResultForm},
+                                {"Cmd_grid_krefter", kResultGridForm},
                                 {"Cmd_finn_tverrsnitt", kSectionFinderForm}}) {
         connect(findChild<QPushButton*>(button), &QPushButton::clicked, this, [this, name = name] {
             if (!focus_on_refused_box()) {
@@ -271,12 +273,10 @@ void MainWindow::build_menu()
     item(print, "mnumax2", [this] { print_report(true); });
     print->addSeparator();
     item(print, "mnupdf", [this] { save_report_pdf(); });
-    for (const char* name : {"mnusetup", "mnuklasse"}) {
+    for (const auto& [name, form] : {std::pair{"mnusetup", kSetupForm}, {"mnuklasse", kClassForm}}) {
         QAction* a = menuBar()->addAction(QString());
         a->setObjectName(name);
-        const QString form =
-            QString::fromLatin1(std::string_view(name) == "mnusetup" ? "frmSetup" : "frmClass");
-        connect(a, &QAction::triggered, this, [this, form] { open_form(form); });
+        connect(a, &QAction::triggered, this, [this, form = form] { open_form(form); });
     }
     QMenu* help = menuBar()->addMenu(QString());
     help->setObjectName("mnuHjelp");

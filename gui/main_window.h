@@ -138,8 +138,6 @@ private:
     QLabel* m_headline = nullptr;
     std::array<PictureBox*, 6> m_pictures{};
     std::array<LoadDialog*, 3> m_load_dialogs{};
-    SetupDialog* m_setup = nullptr;
-    ClassDialog* m_classes = nullptr;
     std::array<QAction*, kRecentFiles> m_recent_items{};
     QAction* m_recent_separator = nullptr;
     QMenu* m_file_menu = nullptr;

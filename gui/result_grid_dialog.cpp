@@ -29,7 +29,7 @@ QTableWidgetItem* item(const std::string& text, Qt::Alignment align)
 
 ResultGridDialog::ResultGridDialog(Workspace& ws, QWidget* parent) : QDialog(parent), m_ws(ws)
 {
-    setObjectName("frm_B_grid_mom_Shear_disp_comb");
+    setObjectName(kResultGridForm);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     auto* heading = named<QLabel>("grid_heading", this);

@@ -64,7 +64,7 @@ private:
 SetupDialog::SetupDialog(Workspace& ws, std::filesystem::path data_folder, QWidget* parent)
     : QDialog(parent), m_ws(ws), m_folder(std::move(data_folder))
 {
-    setObjectName("frmSetup");
+    setObjectName(kSetupForm);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->addWidget(build_annex());

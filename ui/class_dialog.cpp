@@ -8,7 +8,7 @@ namespace kvelder {
 namespace {
 
 constexpr CaptionPair kCaptions[] = {
-    {"frmClass", "Classes/factors", "Klasser /faktorer"},
+    {kClassForm, "Classes/factors", "Klasser /faktorer"},
     {"Fra_ksy", "Load sharing factor", "System styrke faktor"},
     {"Fra_lastvar", "Load-duration class", "Lastvarighets klasse"},
     {"Fra_klimaklasse", "Service class (moisture)", "Klima klasse"},

@@ -10,6 +10,8 @@
 
 namespace kvelder {
 
+inline constexpr const char* kClassForm = "frmClass";
+
 // The classes dialog (frmClass): service class, load-duration class and the
 // load-sharing factor ksys. Each edit acts on the beam at once.
 

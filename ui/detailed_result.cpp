@@ -140,7 +140,7 @@ std::vector<Caption> detailed_result_captions(const std::string& language)
 {
     const bool eng = language == "Eng";
     std::vector<Caption> captions{
-        {"frm_Kvelder_detailedresult", eng ? "Detailed results" : "Detaljerte resultater"},
+        {kDetailedResultForm, eng ? "Detailed results" : "Detaljerte resultater"},
         {"Fra_profil", eng ? "Profile" : "Profil"},
         {"fraspanbuck", eng ? "Span no." : "Felt nr."},
         {"Lbl_b1", "b (mm)"},

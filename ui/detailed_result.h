@@ -13,6 +13,8 @@
 
 namespace kvelder {
 
+inline constexpr const char* kDetailedResultForm = "frm_Kvelder_detailedresult";
+
 // The detailed results of one span (frm_Kvelder_detailedresult): the section
 // checks in words and numbers, and the trial dimensions that change the beam.
 

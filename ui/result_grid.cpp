@@ -71,7 +71,7 @@ std::vector<Caption> result_grid_captions(const std::string& language)
 {
     const bool eng = language == "Eng";
     return {
-        {"frm_B_grid_mom_Shear_disp_comb", eng ? "Results along the beam" : "Resultater langs bjelken"},
+        {kResultGridForm, eng ? "Results along the beam" : "Resultater langs bjelken"},
         {"grid_heading",
          eng ? "Max. and Min. forces and deformations" : "Maks. og Min. krefter og deformasjoner"},
     };

@@ -9,6 +9,8 @@
 
 namespace kvelder {
 
+inline constexpr const char* kResultGridForm = "frm_B_grid_mom_Shear_disp_comb";
+
 // The texts of the grid of results along the beam (frm_B_grid_mom_Shear_disp_comb):
 // four rows of heads, then one row for each point of the coarse grid.
 

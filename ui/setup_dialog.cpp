@@ -36,7 +36,7 @@ const FactorField& field_of(SetupFactor factor)
 
 // The texts stand as the program has always shown them, trailing blanks included.
 constexpr CaptionPair kCaptions[] = {
-    {"frmSetup", "Setup", "Setup"},
+    {kSetupForm, "Setup", "Setup"},
     {"Fra_language", "Language", "Spr\u00e5k"},
     {"Fra_set_annex", "EN 1990-1-1 + NA  (Loadfactors)", "EN 1990-1-1 + NA  (Lastfaktorer)"},
     {"Cmd_save", "Save to file", "Lagre p\u00e5 fil"},

@@ -15,6 +15,8 @@
 
 namespace kvelder {
 
+inline constexpr const char* kSetupForm = "frmSetup";
+
 // The setup dialog (frmSetup): the national annex, the language, the psi
 // values, the class of the annex and the partial and crack factors of the
 // active setup row. Its edits act on the beam at once; the file changes only
