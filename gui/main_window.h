@@ -97,7 +97,9 @@ private:
     // Puts the beam's texts into the boxes; the panels follow at the next refresh.
     void fill();
     void show_recent_files();
-    // The box being edited takes its value first, as leaving it would.
+    // The box being edited takes its value first, as leaving it would. A menu
+    // takes no focus, so a box that refused says why again; a button, which
+    // took the focus and ran the rule, asks focus_on_refused_box instead.
     bool commit_focused_box();
     // The box with the focus commits, and the results belong to the input.
     bool may_report();
