@@ -325,8 +325,8 @@ void MainWindow::recalculate()
     }
     ++m_runs;
     m_running = false;
-    // A failing load row leaves results of the rows before it only, as the report knows.
-    m_results->set_checks_run(past_gate && !is_true(m_model.err_load_item));
+    // A failing load row leaves results of the rows before it only.
+    m_results->set_checks_run(results_stand(m_model));
     refresh();
     // The failing load row's dialog and the messages of the run come now that
     // it is over, so that nothing modal opens inside it.
@@ -497,7 +497,7 @@ bool MainWindow::may_report()
     if (!commit_focused_box()) {
         return false;
     }
-    if (data_missing(m_model) || is_true(m_model.err_load_item)) {
+    if (!results_stand(m_model)) {
         show_message(report_refused(m_model.language));
         return false;
     }

@@ -18,6 +18,11 @@ bool data_missing(const Model& m)
            is_true(m.err_section) || window_box_failure(m).has_value();
 }
 
+bool results_stand(const Model& m)
+{
+    return !data_missing(m) && !is_true(m.err_load_item);
+}
+
 namespace {
 
 // The four tables of a group in order, read from the dialog's boxes where

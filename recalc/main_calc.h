@@ -13,6 +13,11 @@ namespace kvelder {
 // box of the window that failed its check.
 bool data_missing(const Model& m);
 
+// Whether the results on show are those of the beam as it stands, whole: it
+// passes the gate and no load row failed, so its detailed forms and its report
+// can be shown.
+bool results_stand(const Model& m);
+
 // The one recalculation after any change of input, from the input gate through
 // the factors, the load checks and calculation grids, the design values and
 // section properties, the analysis of every load case, combination and
