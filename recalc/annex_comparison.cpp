@@ -5,6 +5,8 @@
 #include "recalc/main_calc.h"
 #include "ui/setup_dialog.h"
 
+#include <optional>
+
 namespace kvelder {
 
 std::vector<AnnexRun> calculate_annexes(const Model& m, const LoadDialogs* dialogs)
@@ -17,12 +19,8 @@ std::vector<AnnexRun> calculate_annexes(const Model& m, const LoadDialogs* dialo
         // The factors in force may have been edited since their row was read.
         change_country(*run.beam, row);
         RecordingScreen screen;
-        if (dialogs != nullptr) {
-            LoadDialogs texts = *dialogs;
-            MainCalc(*run.beam, texts, screen, no_trace);
-        } else {
-            MainCalc(*run.beam, screen, no_trace);
-        }
+        std::optional<LoadDialogs> texts = dialogs ? std::optional(*dialogs) : std::nullopt;
+        MainCalc(*run.beam, texts ? &*texts : nullptr, screen, no_trace);
         run.messages = std::move(screen.messages);
         runs.push_back(std::move(run));
     }

@@ -128,6 +128,11 @@ void run(Model& m, LoadDialogs* dialogs, CalcScreen& screen, ScratchFiles& trace
 
 } // namespace
 
+void MainCalc(Model& m, LoadDialogs* dialogs, CalcScreen& screen, ScratchFiles& trace)
+{
+    run(m, dialogs, screen, trace);
+}
+
 void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, ScratchFiles& trace)
 {
     run(m, &dialogs, screen, trace);

@@ -29,6 +29,7 @@ bool results_stand(const Model& m);
 //
 // With load dialogs, their boxes are the master of the loads: each group reads
 // its rows from them. Without, the group's tables are checked as they stand.
+void MainCalc(Model& m, LoadDialogs* dialogs, CalcScreen& screen, ScratchFiles& trace);
 void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen, ScratchFiles& trace);
 void MainCalc(Model& m, CalcScreen& screen, ScratchFiles& trace);
 void MainCalc(Model& m, LoadDialogs& dialogs, CalcScreen& screen,

@@ -87,11 +87,7 @@ public:
 private:
     void run(RecordingScreen& screen)
     {
-        if (m_dialogs) {
-            MainCalc(*m_beam, *m_dialogs, screen, m_no_trace);
-        } else {
-            MainCalc(*m_beam, screen, m_no_trace);
-        }
+        MainCalc(*m_beam, m_dialogs ? &*m_dialogs : nullptr, screen, m_no_trace);
     }
 
     std::unique_ptr<Model> m_beam;

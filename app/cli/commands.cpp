@@ -131,11 +131,7 @@ Prepared prepare(Model& m, const Options& o, std::ostream& err)
 
 void recalculate(Model& m, Prepared& p, CalcScreen& screen)
 {
-    if (p.dialogs) {
-        MainCalc(m, *p.dialogs, screen, *p.trace);
-    } else {
-        MainCalc(m, screen, *p.trace);
-    }
+    MainCalc(m, p.dialogs ? &*p.dialogs : nullptr, screen, *p.trace);
 }
 
 // The messages of the checks, then of one recalculation when the checks
