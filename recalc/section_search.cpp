@@ -7,6 +7,7 @@
 #include "recalc/calc_screen.h"
 #include "recalc/main_calc.h"
 #include "ui/edits.h"
+#include "ui/section_finder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,17 +67,16 @@ public:
         return std::nullopt;
     }
 
-    // The section applied by `apply`, calculated; none when the beam then
-    // fails a check.
-    template <typename Apply> std::optional<SectionCandidate> trial(Apply&& apply)
+    // The section as the engineer's choice of it would set it, calculated;
+    // none when the beam then fails a check.
+    std::optional<SectionCandidate> trial(SectionCandidate c)
     {
-        apply(*m_beam);
+        choose_candidate(*m_beam, c);
         RecordingScreen screen;
         run(screen);
         if (!screen.messages.empty() || !screen.load_failures.empty()) {
             return std::nullopt;
         }
-        SectionCandidate c;
         c.prof_type_index = m_beam->prof_type_index;
         c.b = m_beam->section_b;
         c.h = m_beam->section_h;
@@ -152,9 +152,10 @@ SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, 
     const bool catalogue = is_true(m.standard_section) && section_option_enabled(m, SectionOption::Standard);
     if (catalogue) {
         for (int k = 0; k < static_cast<int>(rows.size()); ++k) {
-            if (auto c = trials.trial([k](Model& beam) { choose_profile(beam, k); })) {
-                c->prof_index = k;
-                c->profile = as_utf8(rows[static_cast<std::size_t>(k)].name);
+            SectionCandidate profile;
+            profile.prof_index = k;
+            profile.profile = as_utf8(rows[static_cast<std::size_t>(k)].name);
+            if (auto c = trials.trial(std::move(profile))) {
                 tried.push_back(*c);
             }
         }
@@ -188,14 +189,13 @@ SectionSearch find_lightest_section(const Model& m, const LoadDialogs* dialogs, 
             if (third_lightest.size() >= 3 && b * h > third_lightest[2]) {
                 break;
             }
-            auto c = trials.trial([b, h](Model& beam) {
-                set_section_size(beam, Box::Width, b);
-                set_section_size(beam, Box::Height, h);
-            });
+            SectionCandidate rectangle;
+            rectangle.profile = rectangle_name(b, h);
+            rectangle.b = b, rectangle.h = h;
+            auto c = trials.trial(std::move(rectangle));
             if (!c) {
                 continue;
             }
-            c->profile = rectangle_name(b, h);
             tried.push_back(*c);
             if (c->passes()) {
                 ++passed;
