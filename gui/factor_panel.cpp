@@ -90,8 +90,10 @@ FactorPanel::FactorPanel(Workspace& ws, QWidget* parent) : QWidget(parent), m_ws
 void FactorPanel::refresh()
 {
     const FactorLabels f = factor_labels(m_ws.model());
-    m_safety->setVisible(!f.safety_frame.empty());
-    m_safety->setTitle(QString::fromStdString(f.safety_frame));
+    if (f.safety_frame) {
+        m_safety->setVisible(!f.safety_frame->empty());
+        m_safety->setTitle(QString::fromStdString(*f.safety_frame));
+    }
     const std::array<std::pair<const char*, const std::string*>, 17> texts{{
         {"Lbl_safe_fac", &f.safety_class},
         {"Lbl_kfi_1", &f.kfi},

@@ -106,9 +106,11 @@ FactorLabels factor_labels(const Model& m)
     };
     const bool norway = m.annex == "Nor";
     const bool sweden = m.annex == "Swe";
-    std::string safety_frame;
+    std::optional<std::string> safety_frame;
     std::string safety_class;
-    if (norway) {
+    if (m.annex == "Euc") {
+        safety_frame = "";
+    } else if (norway) {
         safety_frame = m.language == "Nor" ? "P\u00e5lit. klasse" : "Rel. class";
         safety_class = m.safety_class == 1 ? "1" : "2 - 4";
     } else if (sweden) {

@@ -3,6 +3,7 @@
 #include "model/model.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace kvelder {
@@ -48,8 +49,10 @@ std::array<BearingRow, kMaxNodes> bearing_rows(const Model& m);
 struct FactorLabels {
     std::string gamma_M, kcr, kmod, kdef, ksys, kh, service_class, psi_Q1, psi_Q2;
     std::string fmd, fvd, fc90d, fmk, fvk, fc90k;
-    std::string duration;     // the load-duration class in words
-    std::string safety_frame; // caption of the class frame; empty where the annex shows none
+    std::string duration; // the load-duration class in words
+    // Caption of the class frame; empty where the annex hides it, none where
+    // the annex leaves the frame as the last annex had it.
+    std::optional<std::string> safety_frame;
     std::string safety_class; // Lbl_safe_fac
     std::string kfi;          // Lbl_kfi_1: "Kfi = " or "Sk = " and the factor
 };

@@ -386,6 +386,8 @@ TEST(FactorLabels, NameTheClassAsTheAnnexDoes)
     EXPECT_EQ(labels.kfi, "Sk = 0.91");
     m->annex = "Euc";
     EXPECT_EQ(factor_labels(*m).safety_frame, "");
+    m->annex = "Uk ";
+    EXPECT_EQ(factor_labels(*m).safety_frame, std::nullopt); // left as the last annex had it
     m->psi0_1 = 0.7F, m->psi2_1 = 0.3F;
     EXPECT_EQ(factor_labels(*m).psi_Q1, "psi0 = 0.7   psi2 = 0.3");
 }
