@@ -5,6 +5,7 @@
 #include "gui/input_box.h"
 #include "gui/named.h"
 #include "gui/workspace.h"
+#include "ui/box_texts.h"
 #include "ui/class_dialog.h"
 #include "ui/edits.h"
 #include "ui/input_checks.h"
@@ -94,7 +95,7 @@ ClassDialog::ClassDialog(Workspace& ws, QWidget* parent) : QDialog(parent), m_ws
 void ClassDialog::open_classes()
 {
     apply_captions(*this, class_dialog_captions(m_ws.model().language));
-    m_ksys->setText(qs(ksys_text(m_ws.model())));
+    m_ksys->setText(qs(box_text(m_ws.model(), Box::Ksys)));
     m_ksys->setModified(false);
     m_ksys->set_failed(false);
     m_taken = m_ws.model().ksys;
@@ -159,7 +160,7 @@ bool ClassDialog::ksys_rule()
         return true;
     }
     return m_ws.run_box_rule(*m_ksys, [this] {
-        const BoxCommit c = commit_ksys(m_ws.model(), m_ksys->text().toStdString());
+        const BoxCommit c = commit_box(m_ws.model(), Box::Ksys, m_ksys->text().toStdString());
         if (!c.failure) {
             m_taken = m_ws.model().ksys;
         }

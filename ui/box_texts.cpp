@@ -46,6 +46,9 @@ std::string box_text(const Model& m, Box box, int node)
     case Box::BearingLength:
         value = node >= 1 && node <= kMaxNodes ? m.bearing_length(node) : 0;
         break;
+    case Box::Ksys:
+        value = m.ksys;
+        break;
     default:
         return {}; // a box of another window
     }
@@ -61,7 +64,8 @@ std::string span_text(const Model& m, int span)
 BoxCommit commit_box(Model& m, Box box, std::string_view text, int node)
 {
     const Reading r = read(text, m.decimal_comma);
-    std::optional<Message> failure = box == Box::Kc90 || box == Box::BearingLength
+    std::optional<Message> failure = box == Box::Ksys ? set_ksys(m, r.value)
+                                     : box == Box::Kc90 || box == Box::BearingLength
                                          ? set_bearing(m, node, box, r.value)
                                          : set_section_size(m, box, r.value);
     return {r.refused ? std::string(text) : box_text(m, box, node), std::move(failure)};

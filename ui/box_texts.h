@@ -16,7 +16,7 @@ namespace kvelder {
 // number at all stands for 0, and so fails the check of every box that has one.
 
 // The text a box shows for the value the beam holds: spans "0.000", b and h
-// "0", d, kc90 and the bearing length "0.00". `node` is the support of the
+// "0", d, kc90, the bearing length and ksys "0.00". `node` is the support of the
 // bearing boxes.
 std::string box_text(const Model& m, Box box, int node = 0);
 std::string span_text(const Model& m, int span);
@@ -26,7 +26,8 @@ struct BoxCommit {
     std::optional<Message> failure; // the box's message; the box turns green
 };
 
-// txt_b1, txt_h1, txt_d, and Txt_kc90, Txt_opp_L of support `node`.
+// txt_b1, txt_h1, txt_d, Txt_kc90 and Txt_opp_L of support `node`, and the
+// classes dialog's Txt_ksy.
 BoxCommit commit_box(Model& m, Box box, std::string_view text, int node = 0);
 
 struct SpanCommit {

@@ -29,18 +29,6 @@ constexpr CaptionPair kCaptions[] = {
 
 } // namespace
 
-std::string ksys_text(const Model& m)
-{
-    return format_number(m.ksys, "0.00", m.decimal_comma != 0);
-}
-
-BoxCommit commit_ksys(Model& m, std::string_view text)
-{
-    const Converted<float> c = TextToNumber(text, m.decimal_comma);
-    std::optional<Message> failure = set_ksys(m, c.value.value_or(0.0F));
-    return {c.value ? ksys_text(m) : std::string(text), std::move(failure)};
-}
-
 std::vector<Caption> class_dialog_captions(const std::string& language)
 {
     return pick_captions(language, kCaptions);
