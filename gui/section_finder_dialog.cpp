@@ -42,10 +42,10 @@ void SectionFinderDialog::open_search()
     const std::string& language = m_ws.model().language;
     apply_captions(*this, section_finder_captions(language));
     m_found = find_lightest_section(m_ws.model(), &m_ws.dialogs());
-    m_summary->setText(qs(search_summary(m_found, language)));
+    m_summary->setText(qs(search_summary(m_ws.model(), m_found)));
     m_list->clear();
     for (const SectionCandidate& c : m_found.candidates) {
-        m_list->addItem(qs(candidate_line(c, language)));
+        m_list->addItem(qs(candidate_line(m_ws.model(), c)));
     }
     m_list->setCurrentRow(m_found.candidates.empty() ? -1 : 0);
     m_choose->setEnabled(!m_found.candidates.empty());

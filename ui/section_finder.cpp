@@ -21,11 +21,6 @@ std::string check_words(GoverningCheck check, bool eng)
     return {};
 }
 
-std::string usage(float uf)
-{
-    return format_number(uf, "0.00");
-}
-
 } // namespace
 
 std::vector<Caption> section_finder_captions(const std::string& language)
@@ -37,9 +32,9 @@ std::vector<Caption> section_finder_captions(const std::string& language)
                                    });
 }
 
-std::string search_summary(const SectionSearch& found, const std::string& language)
+std::string search_summary(const Model& m, const SectionSearch& found)
 {
-    const bool eng = language == "Eng";
+    const bool eng = m.language == "Eng";
     if (found.refused == SearchRefusal::Circle) {
         return eng ? "A circular section: the search tries the rectangles of the family."
                    : "Sirkul\u00e6rt tverrsnitt: s\u00f8ket pr\u00f8ver familiens rektangler.";
@@ -58,15 +53,15 @@ std::string search_summary(const SectionSearch& found, const std::string& langua
                    : "Letteste tverrsnitt som b\u00e6rer bjelken, og de to neste:";
     }
     return eng ? "No section of the family carries the beam. The best is " + best.profile +
-                     ", with a largest usage factor of " + usage(best.uf_max) + "."
+                     ", with a largest usage factor of " + format_number(m, best.uf_max) + "."
                : "Ingen av familiens tverrsnitt b\u00e6rer bjelken. Best er " + best.profile +
-                     ", med st\u00f8rste utnyttelse " + usage(best.uf_max) + ".";
+                     ", med st\u00f8rste utnyttelse " + format_number(m, best.uf_max) + ".";
 }
 
-std::string candidate_line(const SectionCandidate& c, const std::string& language)
+std::string candidate_line(const Model& m, const SectionCandidate& c)
 {
-    return c.profile + "    Uf = " + usage(c.uf_max) + "    (" + check_words(c.governing, language == "Eng") +
-           ")";
+    return c.profile + "    Uf = " + format_number(m, c.uf_max) + "    (" +
+           check_words(c.governing, m.language == "Eng") + ")";
 }
 
 void choose_candidate(Model& m, const SectionCandidate& c)

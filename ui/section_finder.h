@@ -21,11 +21,11 @@ std::vector<Caption> section_finder_captions(const std::string& language);
 // What the search found, in words: the lightest that passes, or that none of
 // the family does and the best with its largest usage factor, or why there
 // was nothing to try.
-std::string search_summary(const SectionSearch& found, const std::string& language);
+std::string search_summary(const Model& m, const SectionSearch& found);
 
 // One line a candidate: its section, its largest usage factor and the check
 // that governs it.
-std::string candidate_line(const SectionCandidate& c, const std::string& language);
+std::string candidate_line(const Model& m, const SectionCandidate& c);
 
 // The engineer's choice: the profile of the family's list, or the width and
 // height of a free rectangle, becomes the beam's section.
