@@ -20,7 +20,6 @@ TEST_F(MainWindowFlow, StartsOnTheExampleOrTheProjectOfTheCommandLineWithOneRun)
     const QString three = write("three spans.kvel", *three_spans());
     start("\"" + three.toStdString() + "\"");
     EXPECT_EQ(window->runs(), 1);
-    EXPECT_EQ(model->loading_flag, kFalse);
     EXPECT_EQ(get<InputBox>("Txtfelt_2")->text(), "6.000");
     EXPECT_TRUE(get("lbl_mom_2")->isVisible() && !text("lbl_mom_2").isEmpty());
     EXPECT_NE(text("lbl_mom_0"), example_moment);
@@ -74,10 +73,6 @@ TEST_F(MainWindowFlow, ListsOptionsAndChecksRecalculateAndSetWhatTheyEnable)
 TEST_F(MainWindowFlow, LeavingASpanBoxRecalculatesOrAsksForTheLengthOnce)
 {
     start();
-    const QString moment = text("lbl_mom_0");
-    EXPECT_EQ(type("Txtfelt_0", "7"), 1);
-    EXPECT_NE(text("lbl_mom_0"), moment);
-
     // An emptied span keeps the focus: a click into another box leaves it again,
     // one message more, the other box untouched.
     type("Txtfelt_0", "");
@@ -180,7 +175,6 @@ TEST_F(MainWindowFlow, FileMenuOpensAndSavesWhatTheWindowShowsOrChangesNothing)
     prompter.file_names = {gate};
     keys(QKeySequence::Open);
     EXPECT_EQ(window->runs(), 2);
-    EXPECT_EQ(model->loading_flag, kFalse);
     click("Opt_610b");
     EXPECT_EQ(window->runs(), 3);
     EXPECT_EQ(type("Txtfelt_1", "4"), 1);
@@ -289,7 +283,6 @@ TEST_F(MainWindowFlow, AChangedBeamIsAskedAboutBeforeItIsThrownAway)
     keys(QKeySequence::New);
     EXPECT_EQ(get<InputBox>("Txtfelt_0")->text(), "5.000");
     EXPECT_EQ(window->runs(), runs + 1);
-    EXPECT_EQ(model->loading_flag, kFalse);
     EXPECT_EQ(window->session().project_path, "New File");
     keys(QKeySequence::New);
     EXPECT_EQ(window->runs(), runs + 2);
