@@ -30,7 +30,6 @@ TEST_F(MainWindowFlow, StartsOnTheExampleOrTheProjectOfTheCommandLineWithOneRun)
     EXPECT_EQ(prompter.messages, QStringList{" Can't find file "});
     EXPECT_EQ(window->runs(), 1);
     EXPECT_EQ(text("lbl_mom_0"), example_moment);
-    EXPECT_EQ(window->session().project_path, "New file");
     EXPECT_FALSE(get<QAction>("mnurecentfile_1")->isVisible());
 }
 
