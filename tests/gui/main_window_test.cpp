@@ -42,7 +42,6 @@ TEST_F(MainWindowFlow, ListsOptionsAndChecksRecalculateAndSetWhatTheyEnable)
     int runs = window->runs();
     QTest::keyClick(family, Qt::Key_Down);
     EXPECT_EQ(window->runs(), runs + 1);
-    EXPECT_EQ(model->prof_type_index, 2);
     EXPECT_FALSE(get("optStandard")->isEnabled() || get("optCircle")->isEnabled() ||
                  get("cboProf")->isEnabled());
     EXPECT_TRUE(get("txt_b1")->isEnabled() && get<QRadioButton>("optRect")->isChecked());
@@ -58,7 +57,6 @@ TEST_F(MainWindowFlow, ListsOptionsAndChecksRecalculateAndSetWhatTheyEnable)
     EXPECT_EQ(window->runs(), runs + 3);
     EXPECT_EQ(model->profile_weight_on, kTrue);
     EXPECT_TRUE(get("Cmd_input_vipping")->isVisible() && !text("lbl_vipp_0").isEmpty());
-    EXPECT_EQ(model->loadcomb_option, 2);
     // One span has no patterns; a circle has no buckling check and no bearing rows.
     click("Optfelt_0");
     EXPECT_TRUE(get<QRadioButton>("Opt_loadcomb1")->isChecked());
