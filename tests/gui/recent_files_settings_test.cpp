@@ -27,10 +27,6 @@ TEST(RecentFilesSettings, KeptUnderTheApplicationSectionAndKeysLetterForLetter)
     RecentFilesSettings later;
     EXPECT_EQ(ShowRecentFiles(later),
               (std::vector<std::string>{"1. " + names[2], "2. " + names[1], "3. " + names[0]}));
-    for (int k = 1; k <= 3; ++k) {
-        EXPECT_EQ(later.value(k), path_from_utf8(names[static_cast<std::size_t>(3 - k)])) << k;
-    }
-    EXPECT_EQ(recent_file_path(ShowRecentFiles(later)[1]), path_from_utf8(names[1]));
 
     QSettings raw(QSettings::NativeFormat, QSettings::UserScope, "Kvelder", "Kvelder");
     EXPECT_EQ(raw.value("Recent Files/RecentFile1").toString(), QString::fromStdString(names[2]));

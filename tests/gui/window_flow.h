@@ -28,7 +28,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <deque>
 #include <fstream>
 
@@ -188,11 +187,12 @@ protected:
         const bool button = qobject_cast<QAbstractButton*>(w) != nullptr;
         QTest::mouseClick(w, Qt::LeftButton, {}, button ? QPoint(6, w->height() / 2) : w->rect().center());
     }
-    // Types over the whole text of a box, clicking into it unless it has the
-    // focus, and leaves it by Tab; the recalculations that the leaving ran.
-    int type(const char* name, const QString& text, bool leave = true)
+    // Types over the whole text of a box of the window (or of the dialog `in`),
+    // clicking into it unless it has the focus, and leaves it by Tab; the
+    // recalculations that the leaving ran.
+    int type(const char* name, const QString& text, bool leave = true, QWidget* in = nullptr)
     {
-        InputBox* box = get<InputBox>(name);
+        InputBox* box = in != nullptr ? in->findChild<InputBox*>(name) : get<InputBox>(name);
         if (!box->hasFocus()) {
             QTest::mouseClick(box, Qt::LeftButton);
         }
@@ -234,6 +234,12 @@ protected:
         d->activateWindow();
         EXPECT_TRUE(QTest::qWaitFor([d] { return QApplication::activeWindow() == d; }));
         return d;
+    }
+    // Whether the focus is on that control of the dialog in front.
+    static bool focus_in(const char* name)
+    {
+        QDialog* d = front();
+        return d != nullptr && QApplication::focusWidget() == d->findChild<QWidget*>(name);
     }
     // Closes the dialog in front by Esc and lets it go, so that the next one
     // opened is the one found by name.
